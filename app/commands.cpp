@@ -1,0 +1,164 @@
+#include "app/commands.h"
+
+#include <array>
+#include <unordered_map>
+
+#include "base/runtime_error.h"
+
+namespace ng {
+namespace {
+
+/// The element of a two-element control array that the act names.
+std::size_t Element(const Act& act) {
+  if (act.index < 0 || act.index > 1) ThrowSubscript();
+  return static_cast<std::size_t>(act.index);
+}
+
+using Run = void (*)(Session&, const Act&);
+
+/// A command that takes nothing from the act.
+template <void (MainForm::*function)()>
+void Main(Session& session, const Act&) {
+  (session.main.*function)();
+}
+
+/// An edit of a single text box of a panel.
+template <auto panel, auto box>
+void Edit(Session& session, const Act& act) {
+  session.main.Box_Change(session.main.*panel.*box, act.text);
+}
+
+/// An edit of a text box that stands once for each weapon.
+template <PerWeapon<std::string> WeaponPanel::*box>
+void EditWeapon(Session& session, const Act& act) {
+  session.main.Box_Change((session.main.weapons.*box)[Element(act)], act.text);
+}
+
+template <PerWeapon<bool> WeaponPanel::*box>
+void CheckWeapon(Session& session, const Act& act) {
+  session.main.Check_Click((session.main.weapons.*box)[Element(act)]);
+}
+
+/// A command that takes the act's index: a row, a code, a choice.
+template <void (MainForm::*function)(int)>
+void MainIndexed(Session& session, const Act& act) {
+  (session.main.*function)(act.index);
+}
+
+template <void (MainForm::*function)(const std::string&)>
+void MainText(Session& session, const Act& act) {
+  (session.main.*function)(act.text);
+}
+
+// The range choice of the second weapon follows the four of the first.
+void ChooseRange(Session& session, const Act& act) {
+  if (act.index < 0 || act.index >= static_cast<int>(2 * kRanges)) ThrowSubscript();
+  const int ranges = static_cast<int>(kRanges);
+  session.main.optRangeSel(act.index < ranges ? Weapon::Primary : Weapon::Secondary,
+                           act.index % ranges);
+}
+
+const auto kCommands = std::to_array<Command>({
+    {"mnuFileOpen", Main<&MainForm::mnuFileOpen>, Menu::File, 0, "&Open...", "Ctrl+O",
+     "Import characters from their files", "Open", "Open"},
+    {"mnuFileExit", Main<&MainForm::mnuFileExit>, Menu::File, 2, "E&xit", "Ctrl+Q",
+     "Close the tracker"},
+
+    {"mnuTReroll", Main<&MainForm::mnuTReroll>, Menu::Turn, 0, "&Reroll", "Ctrl+R",
+     "Roll everybody's initiative and begin a combat turn", "Reroll", "Reroll"},
+    {"mnuTReset", Main<&MainForm::mnuTReset>, Menu::Turn, 0, "Reset to &Top", "Ctrl+T",
+     "Begin a combat turn with the initiative as it is", "Reset", "Reset"},
+    {"mnuTPrev", Main<&MainForm::mnuTPrev>, Menu::Turn, 1, "&Previous", "F7",
+     "Step back to look at earlier actions of this combat turn", "Prev", "Prev"},
+    {"mnuTNext", Main<&MainForm::mnuTNext>, Menu::Turn, 1, "&Next", "F8",
+     "Step on to the next action", "Next", "Next"},
+    {"mnuTClear", Main<&MainForm::mnuTClear>, Menu::Turn, 2, "&Clear All Events", "Ctrl+E",
+     "Forget all grenades and rockets that are still to go off", "ClearFlag", "Clear flag"},
+
+    {"mnuViewOptions", Main<&MainForm::mnuViewOptions>, Menu::View, 0, "&Options...", "Ctrl+,",
+     "Choose the directories and switches"},
+    {"mnuViewStatusBar", Main<&MainForm::mnuViewStatusBar>, Menu::View, 1, "&Status Bar",
+     "Ctrl+/", "Show or hide the status bar", "", "", true},
+    {"mnuViewDark", Main<&MainForm::mnuViewDark>, Menu::View, 1, "&Dark Colours", "Ctrl+Shift+D",
+     "Light or dark colours, until the program closes", "", "", true},
+
+    {"GridX_Click", MainIndexed<&MainForm::GridX_Click>},
+    {"GridX_KeyPress", MainIndexed<&MainForm::GridX_KeyPress>},
+    {"GridX_Roll", [](Session& s, const Act& a) { s.main.GridX_Cell(a.index, 1); }},
+    {"GridX_PM", [](Session& s, const Act& a) { s.main.GridX_Cell(a.index, 2); }},
+    {"GridX_Name", [](Session& s, const Act& a) { s.main.GridX_Cell(a.index, 0); }},
+
+    {"optInitMode", MainIndexed<&MainForm::optInitMode>},
+    {"txtRRSLT", MainText<&MainForm::txtRRSLT_Change>},
+    {"txtInit",
+     [](Session& s, const Act& a) {
+       s.main.txtInit_Change(static_cast<int>(Element(a)), a.text);
+     }},
+    {"txtReac",
+     [](Session& s, const Act& a) {
+       s.main.txtReac_Change(static_cast<int>(Element(a)), a.text);
+     }},
+    {"tabMain", MainIndexed<&MainForm::tabMain_Click>},
+
+    {"txtPainResistance", Edit<&MainForm::damage, &DamagePanel::txtPainResistance>},
+    {"txtShots", EditWeapon<&WeaponPanel::txtShots>},
+    {"txtTBTT", EditWeapon<&WeaponPanel::txtTBTT>},
+    {"txtRC", EditWeapon<&WeaponPanel::txtRC>},
+    {"txtGyro", EditWeapon<&WeaponPanel::txtGyro>},
+    {"chkSmL", CheckWeapon<&WeaponPanel::chkSmL>},
+    {"chkLaserSight", CheckWeapon<&WeaponPanel::chkLaserSight>},
+    {"chkSmtGoggles", CheckWeapon<&WeaponPanel::chkSmtGoggles>},
+    {"chkTwoGuns",
+     [](Session& s, const Act&) { s.main.Check_Click(s.main.weapons.chkTwoGuns); }},
+    {"optRangeSel", ChooseRange},
+    {"txtCP", Edit<&MainForm::pools, &PoolPanel::txtCP>},
+    {"txtSP", Edit<&MainForm::pools, &PoolPanel::txtSP>},
+    {"txtSD", Edit<&MainForm::pools, &PoolPanel::txtSD>},
+    {"txtAS", Edit<&MainForm::pools, &PoolPanel::txtAS>},
+    {"txtKP", Edit<&MainForm::pools, &PoolPanel::txtKP>},
+
+    {"lstArmor_Check", MainIndexed<&MainForm::lstArmor_Check>},
+    {"lstWeapon_Check", MainIndexed<&MainForm::lstWeapon_Check>},
+    {"lstGear_Check", MainIndexed<&MainForm::lstGear_Check>},
+    {"txtNotes", MainText<&MainForm::txtNotes_Change>},
+
+    {"frmLoader.Drive1", [](Session& s, const Act& a) { s.loader.Drive1_Change(a.text); }},
+    {"frmLoader.DirListBox", [](Session& s, const Act& a) { s.loader.DirListBox_Change(a.text); }},
+    {"frmLoader.filesXML_Select",
+     [](Session& s, const Act& a) { s.loader.filesXML_Select(a.index); }},
+    {"frmLoader.filesXML_Unselect",
+     [](Session& s, const Act& a) { s.loader.filesXML_Unselect(a.index); }},
+    {"frmLoader.cmdLoad", [](Session& s, const Act&) { s.loader.cmdLoad(); }},
+    {"frmLoader.cmdCancel", [](Session& s, const Act&) { s.loader.cmdCancel(); }},
+
+    {"frmOptions.dirNG3", [](Session& s, const Act& a) { s.options.dirNG3 = a.text; }},
+    {"frmOptions.dirDat", [](Session& s, const Act& a) { s.options.dirDat = a.text; }},
+    {"frmOptions.chkCloneInit",
+     [](Session& s, const Act&) { s.options.chkCloneInit = !s.options.chkCloneInit; }},
+    {"frmOptions.chkDisableNGDR",
+     [](Session& s, const Act&) { s.options.chkDisableNGDR = !s.options.chkDisableNGDR; }},
+    {"frmOptions.cmdOK", [](Session& s, const Act&) { s.options.cmdOK(); }},
+    {"frmOptions.cmdCancel", [](Session& s, const Act&) { s.options.cmdCancel(); }},
+});
+
+constexpr auto kToolbarKeys = std::to_array<const char*>(
+    {"New", "Open", "", "Reroll", "Reset", "", "Prev", "Next", "", "ClearFlag", "", "Delay",
+     "Disable", "", "Grenade", "Rocket", "", "Multiply", "Delete"});
+
+}  // namespace
+
+std::span<const Command> Commands() { return kCommands; }
+
+std::span<const char* const> ToolbarKeys() { return kToolbarKeys; }
+
+const Command* FindCommand(std::string_view name) {
+  static const auto byName = [] {
+    std::unordered_map<std::string_view, const Command*> map;
+    for (const Command& command : kCommands) map.emplace(command.name, &command);
+    return map;
+  }();
+  const auto found = byName.find(name);
+  return found == byName.end() ? nullptr : found->second;
+}
+
+}  // namespace ng

@@ -1,0 +1,120 @@
+#include "app/controls.h"
+
+#include "app/main_form.h"
+
+namespace ng {
+namespace {
+
+template <typename Texts>
+void VisitTexts(ControlVisitor& visitor, const char* name, const Texts& texts) {
+  int index = 0;
+  for (const std::string& text : texts) visitor.Text({name, index++}, text);
+}
+
+void VisitChecks(ControlVisitor& visitor, const char* name, const PerWeapon<bool>& checks) {
+  int index = 0;
+  for (const bool checked : checks) visitor.Check({name, index++}, checked);
+}
+
+void VisitHeader(const MainForm& form, ControlVisitor& visitor) {
+  const HeaderPanel& header = form.header;
+  visitor.Text({"lblPhase"}, form.sequencer.lblPhase());
+  visitor.Text({"lblName2"}, header.lblName2);
+  visitor.Text({"lblNameX"}, header.lblNameX);
+  visitor.Text({"lblNameY"}, header.lblNameY);
+  visitor.Text({"lblNameZ"}, header.lblNameZ);
+  visitor.Text({"lblRace2"}, header.lblRace2);
+  visitor.Text({"lblTurn"}, form.TurnBadge());
+  visitor.Text({"txtRRSLT"}, header.txtRRSLT);
+  visitor.Text({"lblFRSLT"}, header.lblFRSLT);
+  VisitTexts(visitor, "txtInit", header.txtInit);
+  VisitTexts(visitor, "txtReac", header.txtReac);
+  visitor.Choice({"optInitMode"}, header.optInitMode);
+}
+
+void VisitCombatPage(const MainForm& form, ControlVisitor& visitor) {
+  const DamagePanel& damage = form.damage;
+  visitor.Level({"arPBDamage", 0}, damage.arPBDamage[0].Value());
+  visitor.Level({"arPBDamage", 1}, damage.arPBDamage[1].Value());
+  visitor.Text({"lblPDam"}, damage.lblPDam);
+  visitor.Text({"lblSDam"}, damage.lblSDam);
+  visitor.Text({"lblPhysical"}, damage.lblPhysical);
+  visitor.Text({"lblStun"}, damage.lblStun);
+  visitor.Text({"lblOverDamage"}, damage.lblOverDamage);
+  visitor.Text({"lblDamMod"}, damage.lblDamMod);
+  visitor.Text({"txtPainResistance"}, damage.txtPainResistance);
+
+  const WeaponPanel& weapons = form.weapons;
+  visitor.Text({"lblPrimary"}, weapons.lblPrimary);
+  visitor.Text({"lblSecondary"}, weapons.lblSecondary);
+  VisitTexts(visitor, "lblDamage", weapons.lblDamage);
+  VisitTexts(visitor, "lblConceal", weapons.lblConceal);
+  VisitTexts(visitor, "lblAmmo", weapons.lblAmmo);
+  VisitTexts(visitor, "lblPRng", weapons.lblPRng);
+  VisitTexts(visitor, "lblSRng", weapons.lblSRng);
+  visitor.Choice({"optRangeSel", 0}, weapons.optRangeSel[0]);
+  visitor.Choice({"optRangeSel", 1}, weapons.optRangeSel[1]);
+  VisitTexts(visitor, "txtShots", weapons.txtShots);
+  VisitTexts(visitor, "txtTBTT", weapons.txtTBTT);
+  VisitTexts(visitor, "txtRC", weapons.txtRC);
+  VisitTexts(visitor, "txtGyro", weapons.txtGyro);
+  VisitTexts(visitor, "txtURC", weapons.txtURC);
+  VisitChecks(visitor, "chkSmL", weapons.chkSmL);
+  VisitChecks(visitor, "chkLaserSight", weapons.chkLaserSight);
+  VisitChecks(visitor, "chkSmtGoggles", weapons.chkSmtGoggles);
+  visitor.Check({"chkTwoGuns"}, weapons.chkTwoGuns);
+
+  const PoolPanel& pools = form.pools;
+  visitor.Text({"txtCP"}, pools.txtCP);
+  visitor.Text({"txtSP"}, pools.txtSP);
+  visitor.Text({"txtSD"}, pools.txtSD);
+  visitor.Text({"txtAS"}, pools.txtAS);
+  visitor.Text({"txtKP"}, pools.txtKP);
+  visitor.List({"lstActive"}, form.sheet.lstActive);
+  visitor.Text({"lblSkill"}, form.lblSkill);
+}
+
+void VisitSheet(const MainForm& form, ControlVisitor& visitor) {
+  const SheetPanel& sheet = form.sheet;
+  visitor.Text({"lblBAL"}, sheet.lblBAL);
+  visitor.Text({"lblIMP"}, sheet.lblIMP);
+  visitor.Text({"lblQCKmod"}, sheet.lblQCKmod);
+  visitor.Text({"lblCPmod"}, sheet.lblCPmod);
+  visitor.Text({"lblLWght"}, sheet.lblLWght);
+  visitor.Text({"lblWeight"}, sheet.lblWeight);
+  visitor.Text({"lblWeight2"}, sheet.lblWeight2);
+  visitor.CheckList({"lstWeapon"}, sheet.lstWeapon);
+  visitor.CheckList({"lstArmor"}, sheet.lstArmor);
+  visitor.CheckList({"lstGear"}, sheet.lstGear);
+  VisitTexts(visitor, "lblAttr", sheet.lblAttr);
+  VisitTexts(visitor, "lblPool", sheet.lblPool);
+  visitor.Text({"lblrace"}, sheet.lblrace);
+  visitor.Text({"lblRunMult"}, sheet.lblRunMult);
+  visitor.Text({"lblMageType"}, sheet.lblMageType);
+  visitor.Text({"lblAttacks"}, sheet.lblAttacks);
+  visitor.List({"lstRace"}, sheet.lstRace);
+  visitor.List({"lstAugments"}, sheet.lstAugments);
+  visitor.List({"lstMagic"}, sheet.lstMagic);
+  visitor.List({"lstEdges"}, sheet.lstEdges);
+  visitor.List({"lstOther"}, sheet.lstOther);
+  visitor.List({"lstContacts"}, sheet.lstContacts);
+  visitor.Text({"txtNotes"}, form.txtNotes);
+  visitor.Text({"txtNoteFileName"}, form.txtNoteFileName);
+}
+
+}  // namespace
+
+void VisitControls(const MainForm& form, ControlVisitor& visitor) {
+  visitor.Grid({"GridX"}, form.GridX);
+  VisitHeader(form, visitor);
+  VisitCombatPage(form, visitor);
+  VisitSheet(form, visitor);
+  visitor.Choice({"tabMain"}, form.tabMain);
+  visitor.Check({"mnuPDelay"}, form.mnuPDelay);
+  visitor.Check({"mnuPInactive"}, form.mnuPInactive);
+  visitor.Check({"mnuViewStatusBar"}, form.statusBarVisible);
+  visitor.Check({"mnuViewDark"}, form.darkColours);
+  visitor.Text({"lblStatus"}, form.statusMessage);
+}
+
+}  // namespace ng

@@ -1,0 +1,257 @@
+#include "app/main_form.h"
+
+#include <utility>
+
+#include "base/number_text.h"
+#include "base/text.h"
+
+namespace ng {
+namespace {
+
+constexpr const char* kSection = "Settings";
+
+struct LayoutKey {
+  const char* key;
+  int WindowLayout::*member;
+};
+constexpr std::array<LayoutKey, 4> kLayoutKeys = {{{"MainLeft", &WindowLayout::MainLeft},
+                                                   {"MainTop", &WindowLayout::MainTop},
+                                                   {"MainWidth", &WindowLayout::MainWidth},
+                                                   {"MainHeight", &WindowLayout::MainHeight}}};
+
+}  // namespace
+
+void HeaderPanel::Show(const PlayerRecord& record) {
+  lblName2 = record.Name;
+  lblNameX = record.Name;
+  lblNameY = record.Name;
+  lblNameZ = record.Name;
+  lblRace2 = record.Race;
+  txtRRSLT = PlainText(record.RRSLT);
+  lblFRSLT = PlainText(record.FRSLT);
+  txtInit = {PlainText(record.CurInitNatural), PlainText(record.CurInitAugmented)};
+  txtReac = {PlainText(record.CurReactNatural), PlainText(record.CurReactAugmented)};
+  optInitMode = record.CurInitMode == 0 ? 0 : 1;
+}
+
+MainForm::MainForm(Environment& environment, LoaderForm& loader, OptionsForm& options)
+    : GridX(fight),
+      sequencer(fight, GridX, environment.uniform, environment.prompts, *this),
+      environment_(environment),
+      loader_(loader),
+      options_(options) {}
+
+template <typename Table>
+void MainForm::Take(Table& table, Loaded<Table> loaded) {
+  table = std::move(loaded.table);
+  if (!loaded.message.empty()) environment_.prompts.Message(loaded.message);
+}
+
+void MainForm::Form_Load() {
+  for (const LayoutKey& key : kLayoutKeys) {
+    layout.*key.member = environment_.userSettings.Get(kSection, key.key, layout.*key.member);
+  }
+  GridX.RefreshGrid();
+  XFerPC(0);
+  const std::string& datDir = environment_.settings.DatDir;
+  const std::string message = info.Load(
+      environment_.files, {environment_.location.directory + "\\info.dat", datDir + "\\info.dat"});
+  if (!message.empty()) environment_.prompts.Message(message);
+  Take(gearTable, LoadGearTable(environment_.files, datDir));
+  Take(rangeTable, LoadRangeTable(environment_.files, datDir));
+  Take(skillTable, LoadSkillTable(environment_.files, datDir));
+}
+
+void MainForm::Form_Unload() {
+  for (const LayoutKey& key : kLayoutKeys) {
+    environment_.userSettings.Save(kSection, key.key, layout.*key.member);
+  }
+}
+
+void MainForm::mnuFileOpen() {
+  loader_.Form_Load();
+  environment_.prompts.ShowModal(ModalForm::Loader);
+  Integer imported;
+  const auto finish = [&] {
+    fight.CountPlayers();
+    GridX.RefreshGrid();
+    statusMessage = PlainText(imported) + (imported == 1 ? " character" : " characters") +
+                    " imported";
+  };
+  try {
+    for (const std::string_view name : Split(loader_.selectionList, '|')) {
+      if (name.empty()) continue;
+      ImportCharacter(std::string(name));
+      imported += 1;
+    }
+  } catch (const RuntimeError&) {
+    // Those before the one that failed are in the fight and must be seen there.
+    finish();
+    throw;
+  }
+  if (imported > 0) finish();
+}
+
+void MainForm::ImportCharacter(const std::string& name) {
+  SyncSheet();
+  const ImportTarget target{environment_.files, environment_.settings, gearTable, fight,
+                            characters};
+  XFerPC(LoadCharacterFile(target, name));
+  RecalcArmor();
+}
+
+void MainForm::mnuTReroll() { sequencer.Reroll(environment_.settings.CloneInit); }
+
+void MainForm::mnuTReset() { sequencer.Reset(); }
+
+void MainForm::mnuTNext() { sequencer.Next(); }
+
+void MainForm::mnuTPrev() { sequencer.Previous(); }
+
+void MainForm::mnuTClear() { sequencer.ClearEvents(); }
+
+void MainForm::mnuViewOptions() {
+  options_.Form_Load();
+  environment_.prompts.ShowModal(ModalForm::Options);
+}
+
+void MainForm::GridX_Click(int row) {
+  if (row < 1 || row > GridX.RowCount()) return;
+  SyncSheet();
+  XFerPC(fight.InitOrder[row]);
+  GridX.SetCurrent(row, InitiativeGrid::kRollColumn);
+}
+
+void MainForm::GridX_Cell(int row, int column) { GridX.SetCurrent(row, column); }
+
+void MainForm::GridX_KeyPress(int code) {
+  if (!GridX.TypeCharacter(code)) return;
+  if (GridX.CurrentColumn() != InitiativeGrid::kRollColumn) return;
+  const Slot slot = fight.InitOrder[GridX.CurrentRow()];
+  if (slot == 0) return;
+  const std::string& text = GridX.RowAt(GridX.CurrentRow()).text[InitiativeGrid::kRollColumn];
+  fight.Players[slot].RRSLT = LenientInteger(text);
+  if (slot == fight.CurrentPCpointer) header.txtRRSLT = PlainText(fight.Players[slot].RRSLT);
+}
+
+void MainForm::optInitMode(int option) {
+  sequencer.SetInitMode(option);
+  header.optInitMode = fight.Players[fight.CurrentPCpointer].CurInitMode == 0 ? 0 : 1;
+}
+
+void MainForm::txtRRSLT_Change(const std::string& text) {
+  if (!Displaying()) return;
+  header.txtRRSLT = text;
+  Displayed().RRSLT = LenientInteger(text);
+  GridX.RefreshGrid();
+}
+
+void MainForm::txtInit_Change(int index, const std::string& text) {
+  if (!Displaying()) return;
+  header.txtInit.at(static_cast<std::size_t>(index)) = text;
+  (index == 0 ? Displayed().CurInitNatural : Displayed().CurInitAugmented) = LenientInteger(text);
+}
+
+void MainForm::txtReac_Change(int index, const std::string& text) {
+  if (!Displaying()) return;
+  header.txtReac.at(static_cast<std::size_t>(index)) = text;
+  (index == 0 ? Displayed().CurReactNatural : Displayed().CurReactAugmented) =
+      LenientInteger(text);
+}
+
+void MainForm::Box_Change(std::string& box, const std::string& text) {
+  if (!Displaying()) return;
+  box = text;
+  SyncSheet();
+}
+
+void MainForm::Check_Click(bool& box) {
+  if (!Displaying()) return;
+  box = !box;
+  SyncSheet();
+}
+
+void MainForm::optRangeSel(Weapon weapon, int range) {
+  if (!Displaying()) return;
+  (weapon == Weapon::Primary ? Displayed().RangeSelPrim : Displayed().RangeSelSec) = range;
+  weapons.optRangeSel[static_cast<std::size_t>(weapon)] = range;
+}
+
+void MainForm::lstArmor_Check(int index) { ToggleCarried(&CharacterEntry::armour, index); }
+
+void MainForm::lstWeapon_Check(int index) { ToggleCarried(&CharacterEntry::weapons, index); }
+
+void MainForm::lstGear_Check(int index) { ToggleCarried(&CharacterEntry::gear, index); }
+
+void MainForm::ToggleCarried(std::vector<CarriedLine> CharacterEntry::*list, int index) {
+  CharacterEntry* entry = Displaying() ? characters.Of(Displayed()) : nullptr;
+  if (entry == nullptr) return;
+  std::vector<CarriedLine>& lines = entry->*list;
+  if (index < 0 || static_cast<std::size_t>(index) >= lines.size()) ThrowSubscript();
+  CarriedLine& line = lines[static_cast<std::size_t>(index)];
+  // Laced bones cannot be taken off.
+  line.carried = !line.carried || IsBoneLace(line);
+  sheet.ShowCharacter(entry);
+  RecalcArmor();
+}
+
+void MainForm::txtNotes_Change(const std::string& text) {
+  if (!Displaying()) return;
+  txtNotes = text;
+  Displayed().Notes = text;
+}
+
+void MainForm::tabMain_Click(int page) {
+  tabMain = page;
+  if (Displaying()) Displayed().lastTab = page;
+}
+
+void MainForm::XFerPC(Slot slot) {
+  const PlayerRecord& record = fight.Players[slot];
+  fight.CurrentPCpointer = slot;
+  header.Show(record);
+  damage.Show(record);
+  weapons.Show(record);
+  pools.Show(record);
+  sheet.ShowCharacter(characters.Of(record));
+  sheet.ShowArmourOf(record);
+  lblSkill = record.Skill;
+  txtNotes = record.Notes;
+  txtNoteFileName = record.NoteFileName;
+  mnuPDelay = static_cast<bool>(record.Delay);
+  mnuPInactive = static_cast<bool>(record.inactive);
+}
+
+void MainForm::RecalcArmor() {
+  if (!Displaying()) return;
+  const CharacterEntry* entry = characters.Of(Displayed());
+  if (entry == nullptr) return;
+  const ArmourFigures figures = DeriveArmour(*entry);
+  StoreArmour(Displayed(), figures);
+  sheet.ShowFigures(figures);
+}
+
+void MainForm::SyncSheet() {
+  if (!Displaying()) return;
+  PlayerRecord& record = Displayed();
+  damage.Sync(record);
+  weapons.Sync(record);
+  pools.Sync(record);
+  record.Skill = lblSkill;
+}
+
+void MainForm::RefreshPools() { ng::RefreshPools(fight, characters); }
+
+void MainForm::ZeroRoundCounters() { roundsFired_ = {}; }
+
+std::string MainForm::TurnBadge() const {
+  if (!Displaying()) return "\x96";
+  const PlayerRecord& record = fight.Players[fight.CurrentPCpointer];
+  if (record.inactive) return "Inactive";
+  if (record.Delay) return "Delayed";
+  return record.SetGreen ? "On turn" : "Waiting";
+}
+
+int MainForm::ShownRow() const { return fight.FindInOrder(fight.CurrentPCpointer).Value(); }
+
+}  // namespace ng

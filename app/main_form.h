@@ -1,0 +1,171 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "app/options_form.h"
+#include "app/settings.h"
+#include "base/ports.h"
+#include "combat/damage_monitor.h"
+#include "combat/pools.h"
+#include "combat/weapons.h"
+#include "import/character_display.h"
+#include "import/character_import.h"
+#include "import/loader.h"
+#include "import/reference_tables.h"
+#include "notes/info_index.h"
+#include "tracker/fight.h"
+#include "tracker/grid.h"
+#include "tracker/sequencer.h"
+
+namespace ng {
+
+/// Everything from outside, and the settings that all forms share.
+struct Environment {
+  Files& files;
+  Uniform& uniform;
+  Prompts& prompts;
+  UserSettings& userSettings;
+  ProgramLocation location;
+  Settings settings;
+};
+
+/// Who is displayed: names, race, initiative.
+struct HeaderPanel {
+  /// The name stands on the header and on three of the pages.
+  std::string lblName2;
+  std::string lblNameX;
+  std::string lblNameY;
+  std::string lblNameZ;
+  std::string lblRace2;
+  std::string txtRRSLT;
+  std::string lblFRSLT;
+  /// Index 0 natural, 1 augmented.
+  std::array<std::string, 2> txtInit;
+  std::array<std::string, 2> txtReac;
+  /// 0 physical, 1 astral.
+  int optInitMode = 0;
+
+  void Show(const PlayerRecord& record);
+};
+
+/// Place and size of the main window, in twips (1/20 of a point, 15 to a pixel).
+struct WindowLayout {
+  int MainLeft = 1000;
+  int MainTop = 1000;
+  int MainWidth = 6500;
+  int MainHeight = 6500;
+};
+
+/// The main window without the toolkit: the fight, the panels that show the displayed combatant,
+/// and the commands.
+class MainForm : private SequencerHost {
+ public:
+  MainForm(Environment& environment, LoaderForm& loader, OptionsForm& options);
+
+  // The parts hold on to one another.
+  MainForm(const MainForm&) = delete;
+  MainForm& operator=(const MainForm&) = delete;
+
+  Fight fight;
+  CharacterTable characters;
+  GearTable gearTable;
+  RangeTable rangeTable;
+  SkillTable skillTable;
+  InfoIndex info;
+
+  InitiativeGrid GridX;
+  Sequencer sequencer;
+  HeaderPanel header;
+  DamagePanel damage;
+  WeaponPanel weapons;
+  PoolPanel pools;
+  SheetPanel sheet;
+  std::string lblSkill;
+  std::string txtNotes;
+  std::string txtNoteFileName;
+  /// Check marks of the menu.
+  bool mnuPDelay = false;
+  bool mnuPInactive = false;
+  bool statusBarVisible = true;
+  bool darkColours = false;
+  /// The page that is open: combat, gear, person, notes.
+  int tabMain = 0;
+  std::string statusMessage = "Ready";
+  WindowLayout layout;
+  bool closing = false;
+
+  /// Restores the layout, sets up the grid, reads the info index and the reference tables. A table
+  /// that cannot be read is reported and left as far as it was read.
+  void Form_Load();
+  /// Keeps the layout for the next start.
+  void Form_Unload();
+
+  // Menu and toolbar.
+  void mnuFileOpen();
+  void mnuFileExit() { closing = true; }
+  void mnuTReroll();
+  void mnuTReset();
+  void mnuTNext();
+  void mnuTPrev();
+  void mnuTClear();
+  void mnuViewOptions();
+  void mnuViewStatusBar() { statusBarVisible = !statusBarVisible; }
+  void mnuViewDark() { darkColours = !darkColours; }
+
+  // The grid.
+  /// Displays the row's combatant; the turn stays where it is.
+  void GridX_Click(int row);
+  /// Moves the current cell without displaying anybody.
+  void GridX_Cell(int row, int column);
+  /// Edits the current cell. The Roll column goes into `RRSLT` at once.
+  void GridX_KeyPress(int code);
+
+  // The sheet. With nobody displayed these do nothing.
+  void optInitMode(int option);
+  void txtRRSLT_Change(const std::string& text);
+  void txtInit_Change(int index, const std::string& text);
+  void txtReac_Change(int index, const std::string& text);
+  /// A box of the combat page was edited: takes the text over into the record at once.
+  void Box_Change(std::string& box, const std::string& text);
+  /// Inverts a check box of the combat page.
+  void Check_Click(bool& box);
+  void optRangeSel(Weapon weapon, int range);
+  void lstArmor_Check(int index);
+  void lstWeapon_Check(int index);
+  void lstGear_Check(int index);
+  void txtNotes_Change(const std::string& text);
+  void tabMain_Click(int page);
+
+  /// Displays a combatant, 0 for none.
+  void XFerPC(Slot slot) override;
+  /// The armour and weight derivation for the displayed combatant.
+  void RecalcArmor();
+
+  // What the window shows beside the controls.
+  /// "On turn", "Delayed", "Inactive" or "Waiting"; a dash with nobody displayed.
+  std::string TurnBadge() const;
+  /// The grid row of the displayed combatant, 0 for none.
+  int ShownRow() const;
+
+ private:
+  void SyncSheet() override;
+  void RefreshPools() override;
+  void ZeroRoundCounters() override;
+
+  bool Displaying() const { return fight.CurrentPCpointer != 0; }
+  PlayerRecord& Displayed() { return fight.Players[fight.CurrentPCpointer]; }
+  template <typename Table>
+  void Take(Table& table, Loaded<Table> loaded);
+  void ImportCharacter(const std::string& name);
+  void ToggleCarried(std::vector<CarriedLine> CharacterEntry::*list, int index);
+
+  Environment& environment_;
+  LoaderForm& loader_;
+  OptionsForm& options_;
+  /// Rounds fired by each weapon in this step.
+  PerWeapon<Integer> roundsFired_;
+};
+
+}  // namespace ng

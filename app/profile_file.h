@@ -1,0 +1,77 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/ports.h"
+
+namespace ng {
+
+/// An initialisation file ("[Section]" lines, then "Key=Value" lines), parsed once and asked as
+/// often as wanted. Reads as the platform's profile reader does: the first section of a name and
+/// the first key in it count, ASCII case is ignored, blanks and tabs round key and value go, one
+/// pair of equal quotes round the whole value goes, lines that begin with ";" are comments.
+class ProfileFile {
+ public:
+  ProfileFile() = default;
+  /// Takes the file's text. Anything parses: what is no section and no entry is passed over.
+  explicit ProfileFile(std::string text);
+
+  // The entries view into the text.
+  ProfileFile(const ProfileFile&) = delete;
+  ProfileFile& operator=(const ProfileFile&) = delete;
+  ProfileFile(ProfileFile&&) = delete;
+  ProfileFile& operator=(ProfileFile&&) = delete;
+
+  /// The value, cut to 4095 characters; empty when section or key are missing. The view lives as
+  /// long as this file.
+  std::string_view Value(std::string_view section, std::string_view key) const;
+
+  /// The value of a numbered key: `word` followed by `number` in plain decimal ("Gear0").
+  std::string_view Value(std::string_view section, std::string_view word, int number) const;
+
+ private:
+  struct Section {
+    std::string_view name;
+    std::size_t firstEntry = 0;
+    std::size_t endEntry = 0;
+  };
+  struct Entry {
+    std::uint32_t keyHash = 0;
+    std::string_view key;
+    std::string_view value;
+  };
+
+  const Section* FindSection(std::string_view name) const;
+
+  std::string text_;
+  std::vector<Section> sections_;
+  std::vector<Entry> entries_;
+};
+
+/// Where the program finds what stands beside it.
+struct ProgramLocation {
+  /// The first program argument as it stands, empty when there is none: the settings file to read.
+  std::string commandLine;
+  /// The program's own directory.
+  std::string directory;
+};
+
+/// The path of `file` in the program's directory; when the command line is not empty, the command
+/// line, whatever `file` is.
+std::string MakeAppPath(const ProgramLocation& location, std::string_view file);
+
+/// Whether `path` holds a directory separator: "\" and, in the POSIX form, "/".
+bool HasSeparator(std::string_view path);
+
+/// Reads one value. A `file` without a separator is looked for through MakeAppPath. A missing or
+/// unreadable file, a missing section or key give the empty text.
+std::string ReadINI(Files& files, const ProgramLocation& location, const std::string& file,
+                    std::string_view section, std::string_view key);
+
+/// The text of `path`, empty when it cannot be read: the profile reader reports nothing.
+std::string ReadProfileText(Files& files, const std::string& path);
+
+}  // namespace ng

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+
+#include "app/main_form.h"
+#include "app/options_form.h"
+#include "import/loader.h"
+
+namespace ng {
+
+/// One thing that the game master did: the control and its event, the control's index where it has
+/// one (a row, a code, an element of a control array), and a text where there is one.
+struct Act {
+  std::string control;
+  int index = 0;
+  std::string text;
+
+  friend bool operator==(const Act&, const Act&) = default;
+};
+
+/// The running program without its windows. Every act comes through `Do`, so that a fight can be
+/// written down as a list of acts and played again.
+class Session {
+ public:
+  explicit Session(Environment environment);
+
+  // The forms hold on to the environment.
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+
+  Environment environment;
+  LoaderForm loader;
+  OptionsForm options;
+  MainForm main;
+
+  /// Runs the command that the act names, to its end. A runtime error ends the command; its text is
+  /// shown, and what the command had changed before stays. Acts of a modal form come in while the
+  /// command that showed the form still runs. An act that no command is named after is a fault of
+  /// the caller: std::invalid_argument.
+  void Do(const Act& act);
+};
+
+}  // namespace ng

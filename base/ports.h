@@ -1,0 +1,76 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ng {
+
+// All of the outside that the logic knows. The session is given one of each at start; tests give
+// it recording fakes.
+
+/// Files by the program's own path texts, in which "\" separates and, on POSIX, "/" as well. An
+/// exact name that does not exist is looked for ignoring case, since the data directories come from
+/// a system that ignores it.
+class Files {
+ public:
+  virtual ~Files() = default;
+
+  /// The whole content. Throws the platform's file errors ("File not found", "Path not found").
+  virtual std::string ReadWhole(const std::string& path) = 0;
+  /// Replaces the file by `bytes` in one step: a failure on the way leaves the old file whole.
+  virtual void Replace(const std::string& path, std::string_view bytes) = 0;
+  virtual void Append(const std::string& path, std::string_view bytes) = 0;
+
+  /// The names of the files of `directory` that end in `ending` (ASCII case ignored), sorted as
+  /// the file list shows them; none when the directory cannot be read.
+  virtual std::vector<std::string> List(const std::string& directory, std::string_view ending) = 0;
+};
+
+/// The platform's uniform random source.
+class Uniform {
+ public:
+  virtual ~Uniform() = default;
+  /// A single-precision value R with 0 <= R < 1.
+  virtual float Next() = 0;
+};
+
+/// The modal windows that one form can ask for; the door hands them on to their own forms.
+enum class ModalForm { Options, Loader, SkillLevel };
+
+/// What the common file dialog is opened with.
+struct FileDialog {
+  std::string title;
+  /// A description and a pattern, joined by "|" ("State File (*.ngt)|*.ngt").
+  std::string filter;
+  std::string directory;
+  std::string defaultExtension;
+};
+
+/// What the program asks and tells the game master.
+class Prompts {
+ public:
+  virtual ~Prompts() = default;
+
+  /// A box with an OK button and the application's title; returns when it is closed.
+  virtual void Message(std::string_view text) = 0;
+  /// An input box; Cancel gives the empty text, as the platform's does.
+  virtual std::string Input(std::string_view prompt) = 0;
+  virtual void Beep() = 0;
+  /// The chosen path, or nothing on Cancel.
+  virtual std::optional<std::string> OpenFile(const FileDialog& dialog) = 0;
+  virtual std::optional<std::string> SaveFile(const FileDialog& dialog) = 0;
+  /// Shows the form and returns when it is closed.
+  virtual void ShowModal(ModalForm form) = 0;
+};
+
+/// The per-user store for the window layout.
+class UserSettings {
+ public:
+  virtual ~UserSettings() = default;
+  virtual int Get(const std::string& section, const std::string& key, int defaultValue) = 0;
+  virtual void Save(const std::string& section, const std::string& key, int value) = 0;
+};
+
+}  // namespace ng

@@ -1,0 +1,94 @@
+#include "base/text.h"
+
+#include <algorithm>
+
+namespace ng {
+
+std::string_view TrimmedLeft(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(" \t");
+  return first == std::string_view::npos ? std::string_view{} : text.substr(first);
+}
+
+std::string_view Trimmed(std::string_view text) {
+  text = TrimmedLeft(text);
+  return text.substr(0, text.find_last_not_of(" \t") + 1);
+}
+
+char AsciiLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+bool EqualIgnoringCase(std::string_view a, std::string_view b) {
+  if (a.size() != b.size()) return false;
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    if (AsciiLower(a[i]) != AsciiLower(b[i])) return false;
+  }
+  return true;
+}
+
+bool LessIgnoringCase(std::string_view a, std::string_view b) {
+  const auto lower = [](char x, char y) {
+    return static_cast<unsigned char>(AsciiLower(x)) < static_cast<unsigned char>(AsciiLower(y));
+  };
+  if (std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), lower)) return true;
+  if (std::lexicographical_compare(b.begin(), b.end(), a.begin(), a.end(), lower)) return false;
+  return a < b;
+}
+
+bool Contains(std::string_view text, std::string_view part) {
+  return text.find(part) != std::string_view::npos;
+}
+
+std::vector<std::string_view> Split(std::string_view text, char separator) {
+  std::vector<std::string_view> pieces;
+  if (text.empty()) return pieces;
+  std::size_t start = 0;
+  for (std::size_t end = text.find(separator); end != std::string_view::npos;
+       end = text.find(separator, start)) {
+    pieces.push_back(text.substr(start, end - start));
+    start = end + 1;
+  }
+  pieces.push_back(text.substr(start));
+  return pieces;
+}
+
+std::string_view Piece(std::string_view text, char separator, int index) {
+  if (index < 0) return {};
+  for (; index > 0; --index) {
+    const std::size_t end = text.find(separator);
+    if (end == std::string_view::npos) return {};
+    text.remove_prefix(end + 1);
+  }
+  return text.substr(0, text.find(separator));
+}
+
+std::string Replaced(std::string_view text, std::string_view from, std::string_view to) {
+  std::string result;
+  result.reserve(text.size());
+  std::size_t start = 0;
+  for (std::size_t hit = text.find(from); hit != std::string_view::npos;
+       hit = text.find(from, start)) {
+    result.append(text, start, hit - start).append(to);
+    start = hit + from.size();
+  }
+  return result.append(text, start);
+}
+
+std::string Padded(std::string_view text, std::size_t width) {
+  std::string result(text);
+  if (result.size() < width) result.append(width - result.size(), ' ');
+  return result;
+}
+
+bool LineReader::Next(std::string_view& line) {
+  if (rest_.empty()) return false;
+  const std::size_t end = rest_.find_first_of("\r\n");
+  line = rest_.substr(0, end);
+  if (end == std::string_view::npos) {
+    rest_ = {};
+  } else {
+    const bool pair = rest_.substr(end, 2) == "\r\n";
+    rest_.remove_prefix(end + (pair ? 2 : 1));
+  }
+  return true;
+}
+
+}  // namespace ng

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "base/integer.h"
+#include "tracker/player_record.h"
+
+namespace ng {
+
+/// A control array with one element for each of the two weapons.
+template <typename T>
+using PerWeapon = std::array<T, 2>;
+
+/// The four range brackets.
+constexpr std::size_t kRanges = 4;
+
+/// The weapon panel of the displayed combatant.
+struct WeaponPanel {
+  std::string lblPrimary;
+  std::string lblSecondary;
+  PerWeapon<std::string> lblDamage;
+  PerWeapon<std::string> lblConceal;
+  /// Magazine text ("30(c)").
+  PerWeapon<std::string> lblAmmo;
+  std::array<std::string, kRanges> lblPRng;
+  std::array<std::string, kRanges> lblSRng;
+  /// Chosen range bracket, 0 short to 3 extreme.
+  PerWeapon<int> optRangeSel{};
+  /// Rounds fired since the last reload.
+  PerWeapon<std::string> txtShots;
+  /// Rounds fired this turn.
+  PerWeapon<std::string> txtTBTT;
+  /// Recoil compensation, gyro compensation, and what they leave uncompensated.
+  PerWeapon<std::string> txtRC;
+  PerWeapon<std::string> txtGyro;
+  PerWeapon<std::string> txtURC;
+  /// Check boxes: smartlink, laser sight, smart goggles; firing two guns at once.
+  PerWeapon<bool> chkSmL{};
+  PerWeapon<bool> chkLaserSight{};
+  PerWeapon<bool> chkSmtGoggles{};
+  bool chkTwoGuns = false;
+
+  /// Fills every control from a record.
+  void Show(const PlayerRecord& record);
+  /// Writes the boxes and check marks into the record.
+  void Sync(PlayerRecord& record) const;
+};
+
+}  // namespace ng

@@ -1,0 +1,135 @@
+#include "import/item_lines.h"
+
+#include <array>
+#include <initializer_list>
+
+#include "base/number_text.h"
+#include "base/text.h"
+
+namespace ng {
+namespace {
+
+constexpr std::size_t kArmourNameWidth = 37;
+/// The "X:" of a worn item and its blank come off when the line is shown.
+constexpr std::size_t kWornArmourNameWidth = 40;
+
+constexpr int kArmour = 8;
+constexpr int kIgnored = 26;
+
+/// An item taken apart.
+struct Item {
+  std::string_view name;
+  std::string_view fields;
+  Integer category;
+};
+
+/// Which columns of a category's layout make up a weapon line; null where there is none.
+struct WeaponLayout {
+  int category;
+  const char* damage;
+  const char* concealability;
+  /// Written behind the concealability and a "/".
+  const char* besideConcealability;
+  std::array<const char*, 3> figures;
+  const char* ammunition;
+  const char* weight;
+};
+
+constexpr std::array<WeaponLayout, 6> kWeaponLayouts = {{
+    {1, "Damage", "Concealability", "Reach", {}, nullptr, nullptr},
+    {2, "Damage", "Concealability", "Str.Min.", {}, nullptr, "Weight"},
+    {3, "Damage", "Concealability", nullptr, {"Mode", "Accessories"}, "Ammunition", "Weight"},
+    {4, "Damage", nullptr, nullptr, {"Intelligence", "Blast", "Scatter"}, nullptr, "Weight"},
+    {5, "Damage", "Concealability", nullptr, {}, nullptr, nullptr},
+    {6, nullptr, "Concealability", nullptr, {"Mount", "Rating"}, nullptr, "Weight"},
+}};
+
+std::string_view FieldNamed(const GearTable& table, const Item& item, const char* column) {
+  if (column == nullptr) return {};
+  return GearField(item.fields, GearColumnIndex(table, item.category, column));
+}
+
+/// The texts that are not empty, joined with "/".
+std::string JoinedWithSlash(std::initializer_list<std::string_view> texts) {
+  std::string joined;
+  for (const std::string_view text : texts) {
+    if (text.empty()) continue;
+    if (!joined.empty()) joined += '/';
+    joined += text;
+  }
+  return joined;
+}
+
+std::string JoinedWithTab(std::initializer_list<std::string_view> columns) {
+  std::string joined;
+  bool first = true;
+  for (const std::string_view column : columns) {
+    if (!first) joined += '\t';
+    first = false;
+    joined += column;
+  }
+  return joined;
+}
+
+std::string WeaponLine(const GearTable& table, const Item& item, const WeaponLayout& layout) {
+  const auto field = [&](const char* column) { return FieldNamed(table, item, column); };
+  return JoinedWithTab(
+      {item.name, field(layout.damage),
+       JoinedWithSlash({field(layout.concealability), field(layout.besideConcealability)}),
+       JoinedWithSlash(
+           {field(layout.figures[0]), field(layout.figures[1]), field(layout.figures[2])}),
+       field(layout.ammunition), field(layout.weight)});
+}
+
+std::string ArmourLine(const GearTable& table, const Item& item, bool worn) {
+  const auto field = [&](const char* column) { return FieldNamed(table, item, column); };
+  return JoinedWithTab({Padded(item.name, worn ? kWornArmourNameWidth : kArmourNameWidth),
+                        field("Concealability"), field("Ballistic"), field("Impact"),
+                        field("Weight")});
+}
+
+}  // namespace
+
+BoneLace BoneLaceOf(std::string_view line) {
+  struct Material {
+    const char* text;
+    int number;
+  };
+  constexpr std::array<Material, 5> kMaterials = {
+      {{"Cera", 4}, {"Tita", 5}, {"Alum", 3}, {"Plastic", 2}, {"Kevlar", 1}}};
+  BoneLace lace{true, 0};
+  for (const Material& material : kMaterials) {
+    if (Contains(line, material.text)) lace.material = material.number;
+  }
+  return lace;
+}
+
+std::string BoneLaceLine(BoneLace lace, std::string_view impact, std::string_view ballistic) {
+  constexpr std::array<const char*, 6> kWeights = {"0", "5", "5", "10", "15", "15"};
+  return JoinedWithTab({Padded(" Cyber:Bone Lace", kArmourNameWidth), "-", impact, ballistic,
+                        kWeights[static_cast<std::size_t>(lace.material)]});
+}
+
+std::string UnarmedLine() { return JoinedWithTab({"Unarmed combat", "(STR)M Stun", "", "", "", ""}); }
+
+void AddItem(const GearTable& table, std::string_view text, CharacterEntry& entry) {
+  const std::size_t tab = text.find('\t');
+  Item item{text.substr(0, tab), {}, 0};
+  if (tab != std::string_view::npos) item.fields = text.substr(tab + 1);
+  item.category = LenientInteger(GearField(item.fields, 0));
+
+  if (item.category == kIgnored) return;
+  if (item.category == kArmour) {
+    entry.armour.push_back({ArmourLine(table, item, Contains(text, "X:")), false});
+    return;
+  }
+  for (const WeaponLayout& layout : kWeaponLayouts) {
+    if (item.category == layout.category) {
+      entry.weapons.push_back({WeaponLine(table, item, layout), false});
+      return;
+    }
+  }
+  entry.gear.push_back({JoinedWithTab({item.name, FieldNamed(table, item, "Weight")}), false});
+}
+
+}  // namespace ng

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/fixed_table.h"
+#include "base/integer.h"
+#include "base/ports.h"
+
+namespace ng {
+
+/// The layout of one category's item lines, from its header in gear.dat.
+struct GearCategory {
+  std::string name;
+  Integer columnCount;
+  /// Positions 1 to `columnCount`.
+  FixedTable<std::string, 30> columns;
+};
+
+struct GearTable {
+  FixedTable<GearCategory, 64> categories;
+  /// Header lines read.
+  Integer headerCount;
+};
+
+/// A weapon type's range brackets in metres: short, medium, long, extreme.
+struct RangeEntry {
+  /// Weapon-type code in a field of exactly 10 characters, blanks behind, longer codes cut.
+  std::string code;
+  std::string name;
+  std::array<Integer, 4> limits;
+};
+
+struct RangeTable {
+  FixedTable<RangeEntry, 50> entries;
+  Integer count;
+  /// The display names in file order, joined by "|".
+  std::string names;
+};
+
+/// A weapon-type code and the texts by which a skill's name is recognised.
+struct SkillConversion {
+  std::string code;
+  std::vector<std::string> texts;
+};
+
+struct SkillTable {
+  FixedTable<SkillConversion, 64> entries;
+  /// -1 while the table is empty.
+  Integer lastIndex = -1;
+};
+
+/// What could be read of a table, and the message to show, empty when all went well. What was read
+/// before an error stays.
+template <typename Table>
+struct Loaded {
+  Table table;
+  std::string message;
+};
+
+/// Read the three tables from the DATA directory `datDir`. Any error while opening or reading, a
+/// full table included, ends that table's loading with its message.
+Loaded<GearTable> LoadGearTable(Files& files, const std::string& datDir);
+Loaded<RangeTable> LoadRangeTable(Files& files, const std::string& datDir);
+Loaded<SkillTable> LoadSkillTable(Files& files, const std::string& datDir);
+
+/// The position (1 to the column count) of the column of exactly this name, -1 when the category
+/// has none of it; category 0 and categories that the table does not hold have no columns.
+int GearColumnIndex(const GearTable& table, Integer category, std::string_view column);
+
+/// The field at `index` of a "|"-separated list; empty when the index is -1 or the list is shorter.
+std::string_view GearField(std::string_view fields, int index);
+
+/// The weapon-type code of the first entry one of whose texts `name` contains (case counts), else
+/// "Not Found".
+std::string ConvertSkill(const SkillTable& table, std::string_view name);
+
+/// Whether a weapon-type code is a melee one. "Not Found" counts as one, on purpose: a skill that
+/// belongs to no weapon is fought with by hand.
+bool IsMeleeWeaponType(std::string_view code);
+
+/// The range entry whose code is `code`, or null.
+const RangeEntry* FindRange(const RangeTable& table, std::string_view code);
+
+}  // namespace ng

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/fixed_table.h"
+#include "base/ports.h"
+
+namespace ng {
+
+/// The game master's index of reference entries: where in "info.dat" each name stands.
+class InfoIndex {
+ public:
+  static constexpr int kLastEntry = 200;
+
+  struct Entry {
+    std::string name;
+    /// Line of the file, counted from 1 over all lines, comments included.
+    Integer line;
+  };
+
+  /// Reads the first of `paths` that can be read; nothing is reported when none can, since the
+  /// index is an aid. Returns the message to show, empty when all went well; the 201st entry ends
+  /// the loading with one and stays.
+  std::string Load(Files& files, const std::vector<std::string>& paths);
+
+  int Count() const { return count_; }
+  const Entry& At(int index) const { return entries_[index]; }
+  const std::string& FileName() const { return fileName_; }
+
+ private:
+  std::string Index(std::string_view text);
+
+  FixedTable<Entry, kLastEntry> entries_;
+  int count_ = 0;
+  std::string fileName_;
+};
+
+}  // namespace ng

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QLabel>
+
+namespace ng {
+
+/// A label of a width that does not hang on its text: a longer text is cut with an ellipsis and
+/// stands in full in the tooltip.
+class ElidedLabel : public QLabel {
+  Q_OBJECT
+
+ public:
+  using QLabel::QLabel;
+
+  QSize minimumSizeHint() const override;
+  QSize sizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  bool event(QEvent* event) override;
+};
+
+}  // namespace ng

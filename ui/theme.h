@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPalette>
+
+class QApplication;
+class QWidget;
+
+namespace ng {
+
+/// The colours of the windows, light or dark. The row colours of the grid never change with them.
+struct Theme {
+  bool dark;
+  QColor window;
+  QColor group;
+  QColor base;
+  QColor text;
+  QColor muted;
+  QColor fieldEdge;
+  QColor accent;
+  QColor labelAccent;
+  QColor physicalBar;
+  QColor stunBar;
+  QColor nonZeroBox;
+
+  static const Theme& Light();
+  static const Theme& Dark();
+  /// The one in force.
+  static const Theme& Current();
+
+  QPalette Palette() const;
+  QString StyleSheet() const;
+};
+
+/// Puts the colours on every window.
+void ApplyTheme(QApplication& application, const Theme& theme);
+
+/// Whether the desktop asks for dark colours.
+bool DesktopIsDark(const QApplication& application);
+
+/// The interface font (Noto Sans where there is one) in points: 10 for text, 17 for names and
+/// totals, 14 for the rounds left, 11 for the grid.
+QFont InterfaceFont(double points, bool bold = false);
+
+/// Dice results.
+QFont FixedFont(double points);
+
+}  // namespace ng
