@@ -77,8 +77,8 @@ const auto kCommands = std::to_array<Command>({
 
     {"mnuViewOptions", Main<&MainForm::mnuViewOptions>, Menu::View, 0, "&Options...", "Ctrl+,",
      "Choose the directories and switches"},
-    {"mnuViewStatusBar", Main<&MainForm::mnuViewStatusBar>, Menu::View, 1, "&Status Bar",
-     "Ctrl+/", "Show or hide the status bar", "", "", true},
+    {"mnuViewStatusBar", Main<&MainForm::mnuViewStatusBar>, Menu::View, 1, "&Status Bar", "Ctrl+/",
+     "Show or hide the status bar", "", "", true},
     {"mnuViewDark", Main<&MainForm::mnuViewDark>, Menu::View, 1, "&Dark Colours", "Ctrl+Shift+D",
      "Light or dark colours, until the program closes", "", "", true},
 
@@ -91,13 +91,9 @@ const auto kCommands = std::to_array<Command>({
     {"optInitMode", MainIndexed<&MainForm::optInitMode>},
     {"txtRRSLT", MainText<&MainForm::txtRRSLT_Change>},
     {"txtInit",
-     [](Session& s, const Act& a) {
-       s.main.txtInit_Change(static_cast<int>(Element(a)), a.text);
-     }},
+     [](Session& s, const Act& a) { s.main.txtInit_Change(static_cast<int>(Element(a)), a.text); }},
     {"txtReac",
-     [](Session& s, const Act& a) {
-       s.main.txtReac_Change(static_cast<int>(Element(a)), a.text);
-     }},
+     [](Session& s, const Act& a) { s.main.txtReac_Change(static_cast<int>(Element(a)), a.text); }},
     {"tabMain", MainIndexed<&MainForm::tabMain_Click>},
 
     {"txtPainResistance", Edit<&MainForm::damage, &DamagePanel::txtPainResistance>},
@@ -108,8 +104,7 @@ const auto kCommands = std::to_array<Command>({
     {"chkSmL", CheckWeapon<&WeaponPanel::chkSmL>},
     {"chkLaserSight", CheckWeapon<&WeaponPanel::chkLaserSight>},
     {"chkSmtGoggles", CheckWeapon<&WeaponPanel::chkSmtGoggles>},
-    {"chkTwoGuns",
-     [](Session& s, const Act&) { s.main.Check_Click(s.main.weapons.chkTwoGuns); }},
+    {"chkTwoGuns", [](Session& s, const Act&) { s.main.Check_Click(s.main.weapons.chkTwoGuns); }},
     {"optRangeSel", ChooseRange},
     {"txtCP", Edit<&MainForm::pools, &PoolPanel::txtCP>},
     {"txtSP", Edit<&MainForm::pools, &PoolPanel::txtSP>},
@@ -147,9 +142,13 @@ constexpr auto kToolbarKeys = std::to_array<const char*>(
 
 }  // namespace
 
-std::span<const Command> Commands() { return kCommands; }
+std::span<const Command> Commands() {
+  return kCommands;
+}
 
-std::span<const char* const> ToolbarKeys() { return kToolbarKeys; }
+std::span<const char* const> ToolbarKeys() {
+  return kToolbarKeys;
+}
 
 const Command* FindCommand(std::string_view name) {
   static const auto byName = [] {

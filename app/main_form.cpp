@@ -75,8 +75,8 @@ void MainForm::mnuFileOpen() {
   const auto finish = [&] {
     fight.CountPlayers();
     GridX.RefreshGrid();
-    statusMessage = PlainText(imported) + (imported == 1 ? " character" : " characters") +
-                    " imported";
+    statusMessage =
+        PlainText(imported) + (imported == 1 ? " character" : " characters") + " imported";
   };
   try {
     for (const std::string_view name : Split(loader_.selectionList, '|')) {
@@ -100,15 +100,25 @@ void MainForm::ImportCharacter(const std::string& name) {
   RecalcArmor();
 }
 
-void MainForm::mnuTReroll() { sequencer.Reroll(environment_.settings.CloneInit); }
+void MainForm::mnuTReroll() {
+  sequencer.Reroll(environment_.settings.CloneInit);
+}
 
-void MainForm::mnuTReset() { sequencer.Reset(); }
+void MainForm::mnuTReset() {
+  sequencer.Reset();
+}
 
-void MainForm::mnuTNext() { sequencer.Next(); }
+void MainForm::mnuTNext() {
+  sequencer.Next();
+}
 
-void MainForm::mnuTPrev() { sequencer.Previous(); }
+void MainForm::mnuTPrev() {
+  sequencer.Previous();
+}
 
-void MainForm::mnuTClear() { sequencer.ClearEvents(); }
+void MainForm::mnuTClear() {
+  sequencer.ClearEvents();
+}
 
 void MainForm::mnuViewOptions() {
   options_.Form_Load();
@@ -122,7 +132,9 @@ void MainForm::GridX_Click(int row) {
   GridX.SetCurrent(row, InitiativeGrid::kRollColumn);
 }
 
-void MainForm::GridX_Cell(int row, int column) { GridX.SetCurrent(row, column); }
+void MainForm::GridX_Cell(int row, int column) {
+  GridX.SetCurrent(row, column);
+}
 
 void MainForm::GridX_KeyPress(int code) {
   if (!GridX.TypeCharacter(code)) return;
@@ -155,8 +167,7 @@ void MainForm::txtInit_Change(int index, const std::string& text) {
 void MainForm::txtReac_Change(int index, const std::string& text) {
   if (!Displaying()) return;
   header.txtReac.at(static_cast<std::size_t>(index)) = text;
-  (index == 0 ? Displayed().CurReactNatural : Displayed().CurReactAugmented) =
-      LenientInteger(text);
+  (index == 0 ? Displayed().CurReactNatural : Displayed().CurReactAugmented) = LenientInteger(text);
 }
 
 void MainForm::Box_Change(std::string& box, const std::string& text) {
@@ -177,11 +188,17 @@ void MainForm::optRangeSel(Weapon weapon, int range) {
   weapons.optRangeSel[static_cast<std::size_t>(weapon)] = range;
 }
 
-void MainForm::lstArmor_Check(int index) { ToggleCarried(&CharacterEntry::armour, index); }
+void MainForm::lstArmor_Check(int index) {
+  ToggleCarried(&CharacterEntry::armour, index);
+}
 
-void MainForm::lstWeapon_Check(int index) { ToggleCarried(&CharacterEntry::weapons, index); }
+void MainForm::lstWeapon_Check(int index) {
+  ToggleCarried(&CharacterEntry::weapons, index);
+}
 
-void MainForm::lstGear_Check(int index) { ToggleCarried(&CharacterEntry::gear, index); }
+void MainForm::lstGear_Check(int index) {
+  ToggleCarried(&CharacterEntry::gear, index);
+}
 
 void MainForm::ToggleCarried(std::vector<CarriedLine> CharacterEntry::*list, int index) {
   CharacterEntry* entry = Displaying() ? characters.Of(Displayed()) : nullptr;
@@ -240,9 +257,13 @@ void MainForm::SyncSheet() {
   record.Skill = lblSkill;
 }
 
-void MainForm::RefreshPools() { ng::RefreshPools(fight, characters); }
+void MainForm::RefreshPools() {
+  ng::RefreshPools(fight, characters);
+}
 
-void MainForm::ZeroRoundCounters() { roundsFired_ = {}; }
+void MainForm::ZeroRoundCounters() {
+  roundsFired_ = {};
+}
 
 std::string MainForm::TurnBadge() const {
   if (!Displaying()) return "\x96";
@@ -252,6 +273,8 @@ std::string MainForm::TurnBadge() const {
   return record.SetGreen ? "On turn" : "Waiting";
 }
 
-int MainForm::ShownRow() const { return fight.FindInOrder(fight.CurrentPCpointer).Value(); }
+int MainForm::ShownRow() const {
+  return fight.FindInOrder(fight.CurrentPCpointer).Value();
+}
 
 }  // namespace ng

@@ -13,7 +13,7 @@ namespace ng {
 struct Act {
   std::string control;
   int index = 0;
-  std::string text;
+  std::string text = {};
 
   friend bool operator==(const Act&, const Act&) = default;
 };

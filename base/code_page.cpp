@@ -50,7 +50,8 @@ char ByteOf(char32_t codePoint) {
     return static_cast<char>(static_cast<unsigned char>(codePoint));
   }
   for (std::size_t i = 0; i < kHighControls.size(); ++i) {
-    if (kHighControls[i] == codePoint) return static_cast<char>(static_cast<unsigned char>(0x80 + i));
+    if (kHighControls[i] == codePoint)
+      return static_cast<char>(static_cast<unsigned char>(0x80 + i));
   }
   return '?';
 }

@@ -29,8 +29,7 @@ void DamagePanel::Show(const PlayerRecord& record) {
                 std::min<Integer>(record.CurDamStun, kBoxes)};
   lblPDam = PlainText(record.CurDamPhysical);
   lblSDam = PlainText(record.CurDamStun);
-  lblOverDamage =
-      record.CurDamPhysical > kBoxes ? PlainText(record.CurDamPhysical - kBoxes) : "0";
+  lblOverDamage = record.CurDamPhysical > kBoxes ? PlainText(record.CurDamPhysical - kBoxes) : "0";
   lblPhysical = LevelOf(Track::Physical, record.CurDamPhysical).name;
   lblStun = LevelOf(Track::Stun, record.CurDamStun).name;
   lblDamMod = "DamMod:+" + PlainText(record.TNDamMod);

@@ -44,8 +44,7 @@ void SheetPanel::ShowArmourOf(const PlayerRecord& record) {
 void SheetPanel::ShowFigures(const ArmourFigures& figures) {
   lblBAL = "BAL=" + PlainText(figures.ballistic);
   lblIMP = "IMP=" + PlainText(figures.impact);
-  lblQCKmod =
-      figures.quicknessModifier < 1 ? "" : "-QCK=" + PlainText(figures.quicknessModifier);
+  lblQCKmod = figures.quicknessModifier < 1 ? "" : "-QCK=" + PlainText(figures.quicknessModifier);
   lblCPmod =
       figures.combatPoolModifier < 1 ? "" : "- CPmod = " + PlainText(figures.combatPoolModifier);
   ShowWeight(figures.weight);

@@ -110,7 +110,9 @@ std::string BoneLaceLine(BoneLace lace, std::string_view impact, std::string_vie
                         kWeights[static_cast<std::size_t>(lace.material)]});
 }
 
-std::string UnarmedLine() { return JoinedWithTab({"Unarmed combat", "(STR)M Stun", "", "", "", ""}); }
+std::string UnarmedLine() {
+  return JoinedWithTab({"Unarmed combat", "(STR)M Stun", "", "", "", ""});
+}
 
 void AddItem(const GearTable& table, std::string_view text, CharacterEntry& entry) {
   const std::size_t tab = text.find('\t');

@@ -12,8 +12,7 @@ QString StoreKey(const std::string& section, const std::string& key) {
 
 }  // namespace
 
-int NativeUserSettings::Get(const std::string& section, const std::string& key,
-                            int defaultValue) {
+int NativeUserSettings::Get(const std::string& section, const std::string& key, int defaultValue) {
   bool number = false;
   const QSettings store(QStringLiteral("NGtracker"), QStringLiteral("NGtracker"));
   const int value = store.value(StoreKey(section, key)).toInt(&number);

@@ -28,7 +28,9 @@ Slot Fight::FindFreeSlot() const {
   return 0;
 }
 
-void Fight::SwapOrder(OrderPosition p, OrderPosition q) { std::swap(InitOrder[p], InitOrder[q]); }
+void Fight::SwapOrder(OrderPosition p, OrderPosition q) {
+  std::swap(InitOrder[p], InitOrder[q]);
+}
 
 void Fight::ClearTurnDone() {
   const Integer n = CountPlayers();
@@ -42,17 +44,23 @@ void Fight::SetGreenAt(OrderPosition p) {
   }
 }
 
-bool Fight::MyTurn() const { return FindInOrder(CurrentPCpointer) == LTurn; }
+bool Fight::MyTurn() const {
+  return FindInOrder(CurrentPCpointer) == LTurn;
+}
 
 const std::vector<FightField>& FightFields() {
-  static const std::vector<FightField> fields = {
-      {"NumPlayers", &Fight::NumPlayers}, {"InfoCnt", &Fight::InfoCnt},
-      {"InitPhase", &Fight::InitPhase},   {"RoundCount", &Fight::RoundCount},
-      {"CurrentPCpointer", &Fight::CurrentPCpointer},
-      {"PhaseCnt", &Fight::PhaseCnt},     {"SeqNum", &Fight::SeqNum},
-      {"TurnNum", &Fight::TurnNum},       {"LTurn", &Fight::LTurn},
-      {"grenadeCnt", &Fight::grenadeCnt}, {"CurGreen", &Fight::CurGreen},
-      {"lastGreen", &Fight::lastGreen}};
+  static const std::vector<FightField> fields = {{"NumPlayers", &Fight::NumPlayers},
+                                                 {"InfoCnt", &Fight::InfoCnt},
+                                                 {"InitPhase", &Fight::InitPhase},
+                                                 {"RoundCount", &Fight::RoundCount},
+                                                 {"CurrentPCpointer", &Fight::CurrentPCpointer},
+                                                 {"PhaseCnt", &Fight::PhaseCnt},
+                                                 {"SeqNum", &Fight::SeqNum},
+                                                 {"TurnNum", &Fight::TurnNum},
+                                                 {"LTurn", &Fight::LTurn},
+                                                 {"grenadeCnt", &Fight::grenadeCnt},
+                                                 {"CurGreen", &Fight::CurGreen},
+                                                 {"lastGreen", &Fight::lastGreen}};
   return fields;
 }
 

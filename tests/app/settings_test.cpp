@@ -1,0 +1,147 @@
+#include "app/settings.h"
+
+#include <gtest/gtest.h>
+
+#include "app/encoding.h"
+#include "app/startup.h"
+#include "fakes/test_program.h"
+
+namespace ng {
+namespace {
+
+TEST(Encoding, EscapesTheFourAndLosesTheirSubstitutes) {
+  EXPECT_EQ(EncodeNG3("a b\tc\r\nd"), "a_b~c^`d");
+  EXPECT_EQ(DecodeNG3("Alpha_Ware~Test"), "Alpha Ware\tTest");
+  EXPECT_EQ(DecodeNG3(EncodeNG3("snake_case ~ ^ `")), "snake case \t \r \n");
+}
+
+TEST(ProfileFile, ReadsAsThePlatformDoes) {
+  const ProfileFile file(
+      "before=nothing\r\n"
+      "; [Section] of a comment\n"
+      "  [ Section ] behind\r"
+      "Key= first \r\n"
+      "key=second\n"
+      "\t quoted = \" kept blanks \" \r\n"
+      "single='it''s'\n"
+      "unequal=\"half'\n"
+      "empty=\n"
+      "no equals sign\n"
+      "sum=1=2\n"
+      ";hidden=1\n"
+      "Gear10=ten\n"
+      "[section]\n"
+      "late=never found\n"
+      "[Unclosed\n"
+      "open=yes");
+  const std::vector<std::pair<const char*, const char*>> cases = {
+      {"KEY", "first"},    {"quoted", " kept blanks "},
+      {"single", "it''s"}, {"unequal", "\"half'"},
+      {"empty", ""},       {"sum", "1=2"},
+      {"hidden", ""},      {";hidden", ""},
+      {"late", ""},        {"missing", ""},
+      {"before", ""}};
+  for (const auto& [key, value] : cases) EXPECT_EQ(file.Value("SECTION", key), value) << key;
+  EXPECT_EQ(file.Value("section", "Gear", 10), "ten");
+  EXPECT_EQ(file.Value("unclosed", "open"), "yes");
+  EXPECT_EQ(file.Value("nowhere", "open"), "");
+}
+
+TEST(ProfileFile, CutsValuesToTheBuffer) {
+  const ProfileFile file("[s]\nlong=" + std::string(5000, 'x'));
+  EXPECT_EQ(file.Value("s", "long").size(), 4095U);
+}
+
+TEST(Settings, PathsOfTheProgram) {
+  EXPECT_EQ(MakeAppPath({"", "C:\\tracker"}, "tracker.ini"), "C:\\tracker\\tracker.ini");
+  EXPECT_EQ(MakeAppPath({"", "C:\\"}, "tracker.ini"), "C:\\tracker.ini");
+  EXPECT_EQ(MakeAppPath({" \"my file\" ", "C:\\"}, "tracker.ini"), " \"my file\" ");
+  FakeFiles files;
+  files.Put("/etc/x.ini", "[s]\nk=posix");
+  files.Put("D:\\other.ini", "[s]\nk=command line");
+  const ProgramLocation location{"D:\\other.ini", "C:\\tracker"};
+  EXPECT_EQ(ReadINI(files, location, "/etc/x.ini", "s", "k"), "posix");
+  EXPECT_EQ(ReadINI(files, location, "plain.ini", "s", "k"), "command line");
+  EXPECT_EQ(ReadINI(files, location, "C:\\gone.ini", "s", "k"), "");
+}
+
+TEST(Settings, SwitchesAreOnForAnythingButNought) {
+  const std::vector<std::pair<const char*, bool>> cases = {
+      {"0", false}, {"", false}, {" 0 ", false}, {"1", true}, {"no", true}, {"00", true}};
+  for (const auto& [text, on] : cases) {
+    FakeFiles files;
+    files.Put("C:\\tracker\\tracker.ini", "[ngTRACKER]\nCloneInit=" + std::string(text));
+    Settings settings;
+    ReadSettings(files, {"", "C:\\tracker"}, settings);
+    EXPECT_EQ(static_cast<bool>(settings.CloneInit), on) << text;
+    EXPECT_FALSE(static_cast<bool>(settings.DisableNGDR));
+    EXPECT_EQ(settings.DatDir, "c:\\Program Files\\Forgekit\\DATA");
+  }
+}
+
+class RecordingWindows : public StartupWindows {
+ public:
+  explicit RecordingWindows(std::vector<std::string>& log) : log_(log) {}
+  void ShowSplash() override { log_.emplace_back("splash"); }
+  void LoadMain() override { log_.emplace_back("load main"); }
+  void UnloadSplash() override { log_.emplace_back("unload splash"); }
+  void ShowMain() override { log_.emplace_back("show main"); }
+
+ private:
+  std::vector<std::string>& log_;
+};
+
+TEST(Startup, WithoutACharacterDirectoryTheOptionsComeFirstAndCountFromTheNextStart) {
+  TestProgram program;
+  for (const char* table : {"gear", "range", "skilconv"}) {
+    program.files.Put("E:\\tables\\" + std::string(table) + ".dat", "!\n");
+  }
+  program.prompts.answers.push_back({ScriptedPrompts::Answer::Kind::Modal,
+                                     "",
+                                     {{"frmOptions.dirNG3", 0, "E:\\people"},
+                                      {"frmOptions.dirDat", 0, "E:\\tables"},
+                                      {"frmOptions.chkCloneInit"},
+                                      {"frmOptions.cmdOK"}}});
+  RecordingWindows windows(program.prompts.log);
+  Main(program.session, windows);
+  EXPECT_EQ(program.prompts.log,
+            (std::vector<std::string>{"splash", "modal frmOptions", "load main", "unload splash",
+                                      "show main"}));
+  EXPECT_EQ(program.files.ReadWhole("C:\\tracker\\tracker.ini"),
+            "[NGtracker]\r\nNG3Dir=E:\\people\r\nDatDir=E:\\tables\r\nCloneInit= 1 \r\n"
+            "DisableNGDR= 0 \r\n");
+  const Settings& settings = program.session.environment.settings;
+  EXPECT_EQ(settings.NG3Dir, "");
+  EXPECT_EQ(settings.DatDir, "E:\\tables");
+  EXPECT_TRUE(static_cast<bool>(settings.CloneInit));
+
+  // The next start has all of it and asks nothing.
+  program.prompts.TakeLog();
+  Main(program.session, windows);
+  EXPECT_EQ(settings.NG3Dir, "E:\\people");
+  EXPECT_EQ(program.prompts.log.front(), "splash");
+  EXPECT_EQ(program.prompts.log.size(), 4U);
+}
+
+TEST(Options, AFailedWriteIsReportedAndLeavesTheDialogAndTheOldFile) {
+  TestProgram program;
+  program.files.Put("C:\\tracker\\tracker.ini", "[NGtracker]\nCloneInit=1\nDisableNGDR=1");
+  program.files.failingWrite = 1;
+  program.prompts.answers.push_back({ScriptedPrompts::Answer::Kind::Modal,
+                                     "",
+                                     {{"frmOptions.chkDisableNGDR"}, {"frmOptions.cmdOK"}}});
+  program.Do("mnuViewOptions");
+  EXPECT_EQ(program.prompts.log.back(), "message \"Disk full\"");
+  EXPECT_TRUE(program.session.options.open);
+  EXPECT_EQ(program.files.ReadWhole("C:\\tracker\\tracker.ini"),
+            "[NGtracker]\nCloneInit=1\nDisableNGDR=1");
+  // The dialog opened with what the file said, not with what this run works by.
+  EXPECT_TRUE(program.session.options.chkCloneInit);
+  EXPECT_FALSE(program.session.options.chkDisableNGDR);
+  program.Do("frmOptions.cmdOK");
+  EXPECT_FALSE(program.session.options.open);
+  EXPECT_FALSE(static_cast<bool>(program.session.environment.settings.CloneInit));
+}
+
+}  // namespace
+}  // namespace ng

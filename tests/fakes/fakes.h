@@ -1,0 +1,105 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "app/session.h"
+#include "base/ports.h"
+
+namespace ng {
+
+/// A disk in memory. Names ignore ASCII case, "\" and "/" both separate.
+class FakeFiles : public Files {
+ public:
+  /// Puts a file there without it counting as a write.
+  void Put(const std::string& path, std::string bytes) { files_[Key(path)] = std::move(bytes); }
+  /// Puts the files of a directory of this machine there.
+  void Mount(const std::string& path, const std::string& nativeDirectory);
+  bool Has(const std::string& path) const { return files_.count(Key(path)) > 0; }
+
+  std::string ReadWhole(const std::string& path) override;
+  void Replace(const std::string& path, std::string_view bytes) override;
+  void Append(const std::string& path, std::string_view bytes) override;
+  std::vector<std::string> List(const std::string& directory, std::string_view ending) override;
+
+  /// The n-th write from now on finds the disk full; 0 for none.
+  int failingWrite = 0;
+  /// How often each file was read.
+  std::map<std::string, int> reads;
+
+ private:
+  static std::string Key(const std::string& path);
+  void CountWrite();
+
+  std::map<std::string, std::string> files_;
+  std::map<std::string, std::string> names_;
+};
+
+/// Gives the values told, and fails the test when they run out.
+class ScriptedUniform : public Uniform {
+ public:
+  /// The values for which RandomInt(6) shows these faces.
+  void PushFaces(std::initializer_list<int> faces);
+  /// The value for which RandomInt(n) gives `number`.
+  void Push(int number, int n) { values_.push_back(ValueFor(number, n)); }
+  /// From now on shows this face whenever the values have run out.
+  void RepeatFace(int face) { repeated_ = ValueFor(face, 6); }
+  std::size_t Left() const { return values_.size(); }
+
+  float Next() override;
+
+ private:
+  static float ValueFor(int number, int n);
+
+  std::deque<float> values_;
+  float repeated_ = -1;
+};
+
+/// Answers the program's questions from a queue and records all that was shown and asked. An
+/// unexpected question ends the test.
+class ScriptedPrompts : public Prompts {
+ public:
+  struct Answer {
+    enum class Kind { Input, File, Cancel, Modal };
+    Kind kind;
+    std::string text;
+    /// What is done in a modal form.
+    std::vector<Act> acts;
+  };
+
+  std::deque<Answer> answers;
+  /// `message "..."`, `beep`, `input "..."`, one entry each.
+  std::vector<std::string> log;
+  /// The door that the acts of a modal form go through.
+  std::function<void(const Act&)> perform;
+
+  /// The record since the last call.
+  std::vector<std::string> TakeLog();
+
+  void Message(std::string_view text) override;
+  std::string Input(std::string_view prompt) override;
+  void Beep() override { log.emplace_back("beep"); }
+  std::optional<std::string> OpenFile(const FileDialog& dialog) override;
+  std::optional<std::string> SaveFile(const FileDialog& dialog) override;
+  void ShowModal(ModalForm form) override;
+
+ private:
+  Answer TakeAnswer(const std::string& question);
+  std::optional<std::string> ChooseFile(const char* kind, const FileDialog& dialog);
+};
+
+class FakeUserSettings : public UserSettings {
+ public:
+  int Get(const std::string& section, const std::string& key, int defaultValue) override;
+  void Save(const std::string& section, const std::string& key, int value) override;
+
+  std::map<std::string, int> values;
+};
+
+/// A text in quotes with everything that is no plain character as "%" and two hexadecimal digits.
+std::string Quoted(std::string_view text);
+
+}  // namespace ng

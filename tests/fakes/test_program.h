@@ -1,0 +1,66 @@
+#pragma once
+
+#include <string>
+
+#include "app/session.h"
+#include "fakes/fakes.h"
+
+namespace ng {
+
+/// The whole program on fakes, with the character directory "C:\chars" and the DATA directory
+/// "C:\DATA".
+struct TestProgram {
+  FakeFiles files;
+  ScriptedUniform uniform;
+  ScriptedPrompts prompts;
+  FakeUserSettings userSettings;
+  Session session{{files,
+                   uniform,
+                   prompts,
+                   userSettings,
+                   {{}, "C:\\tracker"},
+                   {"C:\\chars", "C:\\DATA", false, false}}};
+  MainForm& main = session.main;
+  Fight& fight = session.main.fight;
+
+  TestProgram() {
+    prompts.perform = [this](const Act& act) { session.Do(act); };
+  }
+
+  /// A combatant in the next slot and at the end of the order, with this initiative. It has no
+  /// sheet; `CharacterData` only marks the slot as taken.
+  PlayerRecord& Add(const std::string& name, Integer rolled = 0) {
+    const Slot slot = fight.CountPlayers() + 1;
+    PlayerRecord& record = fight.Players[slot];
+    record.Name = name;
+    record.RRSLT = rolled;
+    record.CharacterData = slot;
+    fight.InitOrder[slot] = slot;
+    main.sequencer.SortInitiative();
+    return record;
+  }
+
+  /// The names of the combatants in their order.
+  std::string Order() {
+    std::string names;
+    for (int p = 1; p <= fight.CountPlayers(); ++p) {
+      names += (p > 1 ? " " : "") + fight.Players[fight.InitOrder[p]].Name;
+    }
+    return names;
+  }
+
+  void Do(const std::string& control, int index = 0, const std::string& text = {}) {
+    session.Do({control, index, text});
+  }
+
+  /// Picks these rows of the loader's file list.
+  void Import(std::initializer_list<int> rows) {
+    ScriptedPrompts::Answer answer{ScriptedPrompts::Answer::Kind::Modal, {}, {}};
+    for (const int row : rows) answer.acts.push_back({"frmLoader.filesXML_Select", row, {}});
+    answer.acts.push_back({"frmLoader.cmdLoad", 0, {}});
+    prompts.answers.push_back(answer);
+    Do("mnuFileOpen");
+  }
+};
+
+}  // namespace ng

@@ -1,0 +1,117 @@
+#include "golden/snapshot.h"
+
+#include <map>
+
+#include "app/controls.h"
+#include "base/number_text.h"
+#include "base/text.h"
+#include "fakes/fakes.h"
+
+namespace ng {
+namespace {
+
+const char* ColourName(InitiativeGrid::Colour colour) {
+  switch (colour) {
+    case InitiativeGrid::Colour::White:
+      return "white";
+    case InitiativeGrid::Colour::Green:
+      return "green";
+    case InitiativeGrid::Colour::Yellow:
+      return "yellow";
+    case InitiativeGrid::Colour::Red:
+      return "red";
+  }
+  return "?";
+}
+
+class SnapshotVisitor : public ControlVisitor {
+ public:
+  explicit SnapshotVisitor(Snapshot& snapshot) : snapshot_(snapshot) {}
+
+  void Text(ControlName control, const std::string& text) override {
+    Add(Name(control), Quoted(text));
+  }
+  void Check(ControlName control, bool checked) override {
+    Add(Name(control), checked ? "checked" : "unchecked");
+  }
+  void Choice(ControlName control, int chosen) override {
+    Add(Name(control), std::to_string(chosen));
+  }
+  void Level(ControlName control, int boxes) override { Add(Name(control), std::to_string(boxes)); }
+  void List(ControlName control, const std::vector<std::string>& lines) override {
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+      Add(Name(control) + " " + std::to_string(i), Quoted(lines[i]));
+    }
+  }
+  void CheckList(ControlName control, const std::vector<CarriedLine>& lines) override {
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+      Add(Name(control) + " " + std::to_string(i),
+          (lines[i].carried ? "[x] " : "[ ] ") + Quoted(lines[i].text));
+    }
+  }
+  void Grid(ControlName control, const InitiativeGrid& grid) override {
+    for (int row = 1; row <= grid.RowCount(); ++row) {
+      const InitiativeGrid::Row& cells = grid.RowAt(row);
+      std::string value;
+      for (const std::string& text : cells.text) value += Quoted(text) + " ";
+      Add(Name(control) + " row " + std::to_string(row), value + ColourName(cells.colour[0]));
+    }
+    Add(Name(control) + " cell",
+        std::to_string(grid.CurrentRow()) + " " + std::to_string(grid.CurrentColumn()));
+  }
+
+ private:
+  static std::string Name(ControlName control) {
+    std::string name = control.name;
+    if (control.index != ControlName::kSingle) name += " " + std::to_string(control.index);
+    return name;
+  }
+  void Add(std::string name, std::string value) {
+    snapshot_.emplace_back(std::move(name), std::move(value));
+  }
+
+  Snapshot& snapshot_;
+};
+
+void AddFight(const Fight& fight, Snapshot& snapshot) {
+  for (const FightField& field : FightFields()) {
+    snapshot.emplace_back(field.name, PlainText(fight.*field.member));
+  }
+  snapshot.emplace_back("GlobalEvents", Quoted(fight.GlobalEvents));
+  for (int i = 0; i <= Fight::kLastSlot; ++i) {
+    const std::string number = std::to_string(i);
+    snapshot.emplace_back("InitOrder " + number, PlainText(fight.InitOrder[i]));
+    snapshot.emplace_back("Turn" + number, PlainText(fight.TurnHistory[i].Turn));
+    snapshot.emplace_back("2Turn" + number, PlainText(fight.TurnHistory[i].TwoTurn));
+    for (const PlayerField& field : PlayerFields()) {
+      snapshot.emplace_back("Slot" + number + " " + field.name,
+                            Quoted(FieldText(fight.Players[i], field)));
+    }
+  }
+}
+
+}  // namespace
+
+Snapshot TakeSnapshot(const Session& session) {
+  Snapshot snapshot;
+  AddFight(session.main.fight, snapshot);
+  SnapshotVisitor visitor(snapshot);
+  VisitControls(session.main, visitor);
+  return snapshot;
+}
+
+std::vector<std::string> Differences(const Snapshot& before, const Snapshot& after) {
+  std::map<std::string, std::string> old(before.begin(), before.end());
+  std::vector<std::string> lines;
+  for (const auto& [name, value] : after) {
+    const auto found = old.find(name);
+    if (found == old.end() || found->second != value) lines.push_back(name + " = " + value);
+    if (found != old.end()) old.erase(found);
+  }
+  for (const auto& [name, value] : before) {
+    if (old.count(name) > 0) lines.push_back(name + " gone");
+  }
+  return lines;
+}
+
+}  // namespace ng

@@ -1,0 +1,104 @@
+#include "tracker/grid.h"
+
+#include <gtest/gtest.h>
+
+#include "fakes/test_program.h"
+
+namespace ng {
+namespace {
+
+using Colour = InitiativeGrid::Colour;
+
+TEST(Grid, RowsShowTheOrderAndTheLastColourWins) {
+  TestProgram program;
+  program.Add("Ash", 9).SetGreen = true;
+  PlayerRecord& birch = program.Add("Birch", 5);
+  birch.SetGreen = true;
+  birch.Delay = true;
+  birch.CondCode = "0L";
+  PlayerRecord& cedar = program.Add("Cedar", 3);
+  cedar.Delay = true;
+  cedar.inactive = true;
+  InitiativeGrid& grid = program.main.GridX;
+  grid.RefreshGrid();
+  ASSERT_EQ(grid.RowCount(), 3);
+  EXPECT_EQ(grid.RowAt(2).text, (std::array<std::string, 3>{"Birch", "5", "0L"}));
+  EXPECT_EQ(grid.RowAt(1).colour[2], Colour::Green);
+  EXPECT_EQ(grid.RowAt(2).colour[0], Colour::Yellow);
+  EXPECT_EQ(grid.RowAt(3).colour[1], Colour::Red);
+  EXPECT_EQ(program.fight.lastGreen.Value(), 2);
+  grid.PaintRowGreen(0);
+  EXPECT_EQ(program.fight.lastGreen.Value(), 2);
+
+  // A stored 1 is not true.
+  birch.SetGreen = Boolean::FromRaw(1);
+  birch.Delay = false;
+  grid.SetCurrent(3, 1);
+  birch.Name.clear();
+  program.fight.InitOrder[2] = 3;
+  grid.RefreshGrid();
+  EXPECT_EQ(grid.RowCount(), 2);
+  EXPECT_EQ(grid.CurrentRow(), 2);
+  EXPECT_EQ(grid.RowAt(2).text[0], "Cedar");
+}
+
+TEST(Grid, TypingEditsTheCellAndTheRollAtOnce) {
+  TestProgram program;
+  program.Add("Ash", 9);
+  program.Add("Birch", 5);
+  program.main.GridX.RefreshGrid();
+  const auto type = [&](std::string_view keys) {
+    for (const char key : keys) program.Do("GridX_KeyPress", static_cast<unsigned char>(key));
+  };
+  const auto cell = [&](int row, int column) {
+    return program.main.GridX.RowAt(row).text[static_cast<std::size_t>(column)];
+  };
+  type("5");  // no current cell yet
+  EXPECT_EQ(cell(1, 1), "9");
+  program.Do("GridX_Click", 1);
+  type("17");
+  EXPECT_EQ(cell(1, 1), "17");
+  EXPECT_EQ(program.fight.Players[1].RRSLT.Value(), 17);
+  EXPECT_EQ(program.main.header.txtRRSLT, "17");
+  type("\r7");  // Enter moves on; a first character in another row replaces
+  EXPECT_EQ(cell(2, 1), "7");
+  type("x");
+  EXPECT_EQ(cell(2, 1), "7x");
+  EXPECT_EQ(program.fight.Players[2].RRSLT.Value(), 7);
+  type("-");
+  EXPECT_EQ(cell(2, 1), "-");
+  type(".");
+  EXPECT_EQ(cell(2, 1), "");
+  EXPECT_EQ(program.fight.Players[2].RRSLT.Value(), 0);
+  type("4\x1b\b");
+  EXPECT_EQ(cell(2, 1), "");
+  program.Do("GridX_PM", 2);
+  type("zz");
+  EXPECT_EQ(cell(2, 2), "zz");
+  EXPECT_EQ(program.fight.Players[2].CondCode, "");
+  program.Do("GridX_Name", 1);
+  type("Q");
+  EXPECT_EQ(cell(1, 0), "Ash");
+  program.Do("GridX_Roll", 1);
+  type("99999");
+  EXPECT_EQ(program.prompts.log, (std::vector<std::string>{"message \"Overflow\""}));
+}
+
+TEST(Grid, AClickKeepsTheTurnAndStoresTheSheetBefore) {
+  TestProgram program;
+  program.Add("Ash", 9);
+  program.Add("Birch", 5);
+  program.Do("mnuTReset");
+  program.Do("mnuTNext");
+  program.Do("txtCP", 0, "4x");
+  program.Do("GridX_Click", 2);
+  EXPECT_EQ(program.main.header.lblName2, "Birch");
+  EXPECT_EQ(program.fight.LTurn.Value(), 1);
+  EXPECT_EQ(program.fight.Players[1].CP.Value(), 4);
+  EXPECT_EQ(program.main.TurnBadge(), "Waiting");
+  for (const int row : {0, 3, -1}) program.Do("GridX_Click", row);
+  EXPECT_EQ(program.main.header.lblName2, "Birch");
+}
+
+}  // namespace
+}  // namespace ng
