@@ -50,6 +50,21 @@ void MainText(Session& session, const Act& act) {
   (session.main.*function)(act.text);
 }
 
+Track TrackOf(const Act& act) {
+  return Element(act) == 0 ? Track::Physical : Track::Stun;
+}
+
+/// A wound of so many boxes on the track that the act names.
+template <int boxes>
+void Wound(Session& session, const Act& act) {
+  session.main.Damage(TrackOf(act), boxes);
+}
+
+template <std::string PoolPanel::*box, std::string (*change)(const std::string&)>
+void Pool(Session& session, const Act&) {
+  session.main.ChangePool(box, change);
+}
+
 // The range choice of the second weapon follows the four of the first.
 void ChooseRange(Session& session, const Act& act) {
   if (act.index < 0 || act.index >= static_cast<int>(2 * kRanges)) ThrowSubscript();
@@ -59,6 +74,8 @@ void ChooseRange(Session& session, const Act& act) {
 }
 
 const auto kCommands = std::to_array<Command>({
+    {"mnuFileNew", Main<&MainForm::mnuFileNew>, Menu::File, 0, "&New", "Ctrl+Shift+N",
+     "Remove all combatants and begin with an empty table", "New", "New"},
     {"mnuFileOpen", Main<&MainForm::mnuFileOpen>, Menu::File, 0, "&Open...", "Ctrl+O",
      "Import characters from their files", "Open", "Open"},
     {"mnuFileExit", Main<&MainForm::mnuFileExit>, Menu::File, 2, "E&xit", "Ctrl+Q",
@@ -74,6 +91,21 @@ const auto kCommands = std::to_array<Command>({
      "Step on to the next action", "Next", "Next"},
     {"mnuTClear", Main<&MainForm::mnuTClear>, Menu::Turn, 2, "&Clear All Events", "Ctrl+E",
      "Forget all grenades and rockets that are still to go off", "ClearFlag", "Clear flag"},
+
+    {"mnuPDelay", Main<&MainForm::mnuPDelay>, Menu::Combatant, 0, "Toggle &Delay", "Ctrl+D",
+     "Put off this combatant's action, or let it act now", "Delay", "Delay", true},
+    {"mnuPInactive", Main<&MainForm::mnuPInactive>, Menu::Combatant, 0, "Toggle Active/&Inactive",
+     "Ctrl+I", "Take this combatant out of initiative, or back in", "Disable", "Disable", true},
+    {"mnuPGrenade", Main<&MainForm::mnuPGrenade>, Menu::Combatant, 1, "&Grenade", "Ctrl+G",
+     "This combatant throws a grenade, which goes off in the next combat turn", "Grenade",
+     "Grenade"},
+    {"mnuPRocket", Main<&MainForm::mnuPRocket>, Menu::Combatant, 1, "&Rocket", "Ctrl+K",
+     "This combatant fires a rocket, which goes off at the end of the combat turn", "Rocket",
+     "Rocket"},
+    {"mnuPMult", Main<&MainForm::mnuPMult>, Menu::Combatant, 2, "&Multiply character (NPC)...",
+     "Ctrl+M", "Make copies of this combatant", "Multiply", "Multiply"},
+    {"mnuPRemove", Main<&MainForm::mnuPRemove>, Menu::Combatant, 2, "De&lete Character", "Ctrl+Del",
+     "Remove this combatant from the fight", "Delete", "Delete"},
 
     {"mnuViewOptions", Main<&MainForm::mnuViewOptions>, Menu::View, 0, "&Options...", "Ctrl+,",
      "Choose the directories and switches"},
@@ -96,6 +128,13 @@ const auto kCommands = std::to_array<Command>({
      [](Session& s, const Act& a) { s.main.txtReac_Change(static_cast<int>(Element(a)), a.text); }},
     {"tabMain", MainIndexed<&MainForm::tabMain_Click>},
 
+    {"cmdLDam", Wound<1>},
+    {"cmdMDam", Wound<3>},
+    {"cmdSDam", Wound<6>},
+    {"cmdDDam", Wound<10>},
+    {"cmdIncrease", Wound<1>},
+    {"cmdReduce", Wound<-1>},
+    {"cmdDamZero", [](Session& s, const Act& a) { s.main.cmdDamZero(TrackOf(a)); }},
     {"txtPainResistance", Edit<&MainForm::damage, &DamagePanel::txtPainResistance>},
     {"txtShots", EditWeapon<&WeaponPanel::txtShots>},
     {"txtTBTT", EditWeapon<&WeaponPanel::txtTBTT>},
@@ -111,6 +150,18 @@ const auto kCommands = std::to_array<Command>({
     {"txtSD", Edit<&MainForm::pools, &PoolPanel::txtSD>},
     {"txtAS", Edit<&MainForm::pools, &PoolPanel::txtAS>},
     {"txtKP", Edit<&MainForm::pools, &PoolPanel::txtKP>},
+
+    {"cmdCPplus", [](Session& s, const Act&) { s.main.ChangeCombatPool(IncPool); }},
+    {"cmdCPnegative", [](Session& s, const Act&) { s.main.ChangeCombatPool(DecPool); }},
+    {"cmdSPplus", Pool<&PoolPanel::txtSP, IncPool>},
+    {"cmdSPnegative", Pool<&PoolPanel::txtSP, DecPool>},
+    {"cmdSDplus", Main<&MainForm::cmdSDplus>},
+    {"cmdSDnegative", Main<&MainForm::cmdSDnegative>},
+    // The plus button of the astral pool bears another name than its box; both names are kept.
+    {"cmdADplus", Pool<&PoolPanel::txtAS, IncPool>},
+    {"cmdASnegative", Pool<&PoolPanel::txtAS, DecPool>},
+    {"cmdKPplus", Pool<&PoolPanel::txtKP, IncPool>},
+    {"cmdKPnegative", Pool<&PoolPanel::txtKP, DecPool>},
 
     {"lstArmor_Check", MainIndexed<&MainForm::lstArmor_Check>},
     {"lstWeapon_Check", MainIndexed<&MainForm::lstWeapon_Check>},

@@ -110,8 +110,8 @@ void VisitControls(const MainForm& form, ControlVisitor& visitor) {
   VisitCombatPage(form, visitor);
   VisitSheet(form, visitor);
   visitor.Choice({"tabMain"}, form.tabMain);
-  visitor.Check({"mnuPDelay"}, form.mnuPDelay);
-  visitor.Check({"mnuPInactive"}, form.mnuPInactive);
+  visitor.Check({"mnuPDelay"}, form.actions.delayChecked);
+  visitor.Check({"mnuPInactive"}, form.actions.inactiveChecked);
   visitor.Check({"mnuViewStatusBar"}, form.statusBarVisible);
   visitor.Check({"mnuViewDark"}, form.darkColours);
   visitor.Text({"lblStatus"}, form.statusMessage);

@@ -35,8 +35,12 @@ void HeaderPanel::Show(const PlayerRecord& record) {
 }
 
 MainForm::MainForm(Environment& environment, LoaderForm& loader, OptionsForm& options)
-    : GridX(fight),
+    : gmLog(environment.files, environment.location.directory + "\\ngtracker.txt",
+            [this](const std::string& failure) { statusMessage = failure; }),
+      GridX(fight),
       sequencer(fight, GridX, environment.uniform, environment.prompts, *this),
+      actions(fight, characters, GridX, sequencer, gmLog, environment.prompts, *this),
+      damageMonitor(fight, damage, sequencer),
       environment_(environment),
       loader_(loader),
       options_(options) {}
@@ -66,6 +70,10 @@ void MainForm::Form_Unload() {
   for (const LayoutKey& key : kLayoutKeys) {
     environment_.userSettings.Save(kSection, key.key, layout.*key.member);
   }
+}
+
+void MainForm::mnuFileNew() {
+  actions.RemoveAll();
 }
 
 void MainForm::mnuFileOpen() {
@@ -118,6 +126,37 @@ void MainForm::mnuTPrev() {
 
 void MainForm::mnuTClear() {
   sequencer.ClearEvents();
+}
+
+void MainForm::mnuPDelay() {
+  actions.ToggleDelay();
+}
+
+void MainForm::mnuPInactive() {
+  actions.ToggleInactive();
+  ShowHeader();
+}
+
+void MainForm::mnuPGrenade() {
+  actions.Grenade();
+}
+
+void MainForm::mnuPRocket() {
+  actions.Rocket();
+}
+
+void MainForm::mnuPMult() {
+  SyncSheet();
+  Integer asked;
+  const Integer made = actions.Multiply(asked);
+  if (asked == 0) return;
+  statusMessage = made == asked ? PlainText(made) + " copies made"
+                                : "The table is full: " + PlainText(made) + " of " +
+                                      PlainText(asked) + " copies made";
+}
+
+void MainForm::mnuPRemove() {
+  actions.Remove();
 }
 
 void MainForm::mnuViewOptions() {
@@ -182,6 +221,40 @@ void MainForm::Check_Click(bool& box) {
   SyncSheet();
 }
 
+void MainForm::Damage(Track track, Integer boxes) {
+  damageMonitor.ApplyDamage(track, boxes);
+  ShowHeader();
+}
+
+void MainForm::cmdDamZero(Track track) {
+  damageMonitor.ClearTrack(track);
+  ShowHeader();
+}
+
+void MainForm::ChangePool(std::string PoolPanel::*box, std::string (*change)(const std::string&)) {
+  if (Displaying()) pools.*box = change(pools.*box);
+}
+
+void MainForm::ChangeCombatPool(std::string (*change)(const std::string&)) {
+  if (!Displaying()) return;
+  pools.txtCP = change(pools.txtCP);
+  Displayed().CP = LenientInteger(pools.txtCP);
+}
+
+void MainForm::cmdSDplus() {
+  if (Displaying()) pools.SetAside();
+}
+
+void MainForm::cmdSDnegative() {
+  if (Displaying()) pools.TakeBack();
+}
+
+void MainForm::CP(Integer value) {
+  if (!Displaying()) return;
+  Displayed().CP = value;
+  pools.txtCP = PlainText(value);
+}
+
 void MainForm::optRangeSel(Weapon weapon, int range) {
   if (!Displaying()) return;
   (weapon == Weapon::Primary ? Displayed().RangeSelPrim : Displayed().RangeSelSec) = range;
@@ -235,8 +308,8 @@ void MainForm::XFerPC(Slot slot) {
   lblSkill = record.Skill;
   txtNotes = record.Notes;
   txtNoteFileName = record.NoteFileName;
-  mnuPDelay = static_cast<bool>(record.Delay);
-  mnuPInactive = static_cast<bool>(record.inactive);
+  actions.delayChecked = static_cast<bool>(record.Delay);
+  actions.inactiveChecked = static_cast<bool>(record.inactive);
 }
 
 void MainForm::RecalcArmor() {

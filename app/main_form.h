@@ -14,7 +14,9 @@
 #include "import/character_import.h"
 #include "import/loader.h"
 #include "import/reference_tables.h"
+#include "notes/gm_log.h"
 #include "notes/info_index.h"
+#include "tracker/actions.h"
 #include "tracker/fight.h"
 #include "tracker/grid.h"
 #include "tracker/sequencer.h"
@@ -75,19 +77,19 @@ class MainForm : private SequencerHost {
   SkillTable skillTable;
   InfoIndex info;
 
+  GmLog gmLog;
   InitiativeGrid GridX;
   Sequencer sequencer;
+  Actions actions;
   HeaderPanel header;
   DamagePanel damage;
   WeaponPanel weapons;
   PoolPanel pools;
   SheetPanel sheet;
+  DamageMonitor damageMonitor;
   std::string lblSkill;
   std::string txtNotes;
   std::string txtNoteFileName;
-  /// Check marks of the menu.
-  bool mnuPDelay = false;
-  bool mnuPInactive = false;
   bool statusBarVisible = true;
   bool darkColours = false;
   /// The page that is open: combat, gear, person, notes.
@@ -103,6 +105,8 @@ class MainForm : private SequencerHost {
   void Form_Unload();
 
   // Menu and toolbar.
+  /// Removes all combatants; nothing is asked.
+  void mnuFileNew();
   void mnuFileOpen();
   void mnuFileExit() { closing = true; }
   void mnuTReroll();
@@ -110,6 +114,12 @@ class MainForm : private SequencerHost {
   void mnuTNext();
   void mnuTPrev();
   void mnuTClear();
+  void mnuPDelay();
+  void mnuPInactive();
+  void mnuPGrenade();
+  void mnuPRocket();
+  void mnuPMult();
+  void mnuPRemove();
   void mnuViewOptions();
   void mnuViewStatusBar() { statusBarVisible = !statusBarVisible; }
   void mnuViewDark() { darkColours = !darkColours; }
@@ -131,6 +141,17 @@ class MainForm : private SequencerHost {
   void Box_Change(std::string& box, const std::string& text);
   /// Inverts a check box of the combat page.
   void Check_Click(bool& box);
+  /// Wounds of the damage panel: boxes added, or taken away when negative.
+  void Damage(Track track, Integer boxes);
+  void cmdDamZero(Track track);
+  /// The pool buttons. The combat pool goes into the record at once, the others with the next
+  /// synchronisation.
+  void ChangeCombatPool(std::string (*change)(const std::string&));
+  void ChangePool(std::string PoolPanel::*box, std::string (*change)(const std::string&));
+  void cmdSDplus();
+  void cmdSDnegative();
+  /// Takes over the combat pool that a test left.
+  void CP(Integer value);
   void optRangeSel(Weapon weapon, int range);
   void lstArmor_Check(int index);
   void lstWeapon_Check(int index);
@@ -159,6 +180,8 @@ class MainForm : private SequencerHost {
   template <typename Table>
   void Take(Table& table, Loaded<Table> loaded);
   void ImportCharacter(const std::string& name);
+  /// Shows what an action may have changed of the displayed combatant.
+  void ShowHeader() { header.Show(fight.Players[fight.CurrentPCpointer]); }
   void ToggleCarried(std::vector<CarriedLine> CharacterEntry::*list, int index);
 
   Environment& environment_;

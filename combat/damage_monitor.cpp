@@ -40,4 +40,62 @@ void DamagePanel::Sync(PlayerRecord& record) const {
   record.PainResistance = LenientInteger(txtPainResistance);
 }
 
+namespace {
+
+/// Takes the resisted boxes off; pain resistance that is left over goes to the next track.
+Integer TakePain(Integer boxes, Integer& pain) {
+  if (boxes >= pain) {
+    const Integer felt = boxes - pain;
+    pain = 0;
+    return felt;
+  }
+  pain -= boxes;
+  return 0;
+}
+
+/// The part of the wound modifier that comes from one track, 0 to 3.
+Integer ModifierStep(Track track, Integer boxes, Integer& pain) {
+  const Integer shown = std::min<Integer>(boxes, DamagePanel::kBoxes);
+  return LevelOf(track, TakePain(shown, pain)).modifierStep;
+}
+
+}  // namespace
+
+void DamageMonitor::ApplyDamage(Track track, Integer& amount) {
+  if (fight_.CurrentPCpointer == 0) return;
+  PlayerRecord& record = fight_.Players[fight_.CurrentPCpointer];
+  const bool dying = record.CurDamPhysical >= DamagePanel::kBoxes;
+  if (track == Track::Physical && dying && amount > 0) amount = 1;
+  Integer& boxes = track == Track::Physical ? record.CurDamPhysical : record.CurDamStun;
+  boxes = std::max<Integer>(boxes + amount, 0);
+  UpdateDamageDisplay();
+}
+
+void DamageMonitor::ClearTrack(Track track) {
+  if (fight_.CurrentPCpointer == 0) return;
+  PlayerRecord& record = fight_.Players[fight_.CurrentPCpointer];
+  (track == Track::Physical ? record.CurDamPhysical : record.CurDamStun) = 0;
+  UpdateDamageDisplay();
+}
+
+void DamageMonitor::UpdateDamageDisplay() {
+  if (fight_.CurrentPCpointer == 0) return;
+  PlayerRecord& record = fight_.Players[fight_.CurrentPCpointer];
+  if (record.CurDamStun > DamagePanel::kBoxes) {
+    record.CurDamPhysical += record.CurDamStun - DamagePanel::kBoxes;
+    record.CurDamStun = DamagePanel::kBoxes;
+  }
+  const char stunLetter = LevelOf(Track::Stun, record.CurDamStun).letter;
+  const char physicalLetter = LevelOf(Track::Physical, record.CurDamPhysical).letter;
+  record.CondCode = {stunLetter, physicalLetter};
+  if (record.CurDamPhysical >= DamagePanel::kBoxes) record.RRSLT = 0;
+  // Pain resistance is spent on stun first.
+  Integer pain = record.PainResistance;
+  record.TNDamMod = ModifierStep(Track::Stun, record.CurDamStun, pain);
+  record.TNDamMod += ModifierStep(Track::Physical, record.CurDamPhysical, pain);
+  record.FRSLT = record.RRSLT - record.TNDamMod;
+  panel_.Show(record);
+  sequencer_.SortInitiative();
+}
+
 }  // namespace ng

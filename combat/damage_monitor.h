@@ -4,7 +4,9 @@
 #include <string>
 
 #include "base/integer.h"
+#include "tracker/fight.h"
 #include "tracker/player_record.h"
+#include "tracker/sequencer.h"
 
 namespace ng {
 
@@ -38,6 +40,29 @@ struct DamagePanel {
   void Show(const PlayerRecord& record);
   /// Writes the panel's box into the record.
   void Sync(PlayerRecord& record) const;
+};
+
+/// The condition monitor of the displayed combatant: two tracks of ten boxes, stun that runs over
+/// into physical damage, and the wound modifier that follows from both. With nobody displayed
+/// nothing happens.
+class DamageMonitor {
+ public:
+  DamageMonitor(Fight& fight, DamagePanel& panel, Sequencer& sequencer)
+      : fight_(fight), panel_(panel), sequencer_(sequencer) {}
+
+  /// Adds `amount` boxes to a track, takes them away when it is negative; a track does not fall
+  /// below 0. From the tenth physical box on every further physical wound, whatever its level, is
+  /// one box of overflow, and `amount` becomes 1; that is deliberate.
+  void ApplyDamage(Track track, Integer& amount);
+  void ClearTrack(Track track);
+  /// Works out the overflow, the condition code, the wound modifier and the initiative result,
+  /// shows them and orders the table anew.
+  void UpdateDamageDisplay();
+
+ private:
+  Fight& fight_;
+  DamagePanel& panel_;
+  Sequencer& sequencer_;
 };
 
 }  // namespace ng

@@ -1,5 +1,6 @@
 #include "combat/pools.h"
 
+#include <algorithm>
 #include <array>
 
 #include "base/number_text.h"
@@ -20,7 +21,24 @@ constexpr std::array<Pool, 5> kPools = {{
     {&PoolPanel::txtKP, &PlayerRecord::KP},
 }};
 
+/// Moves one die between two boxes, when there is one.
+void MoveDie(std::string& from, std::string& to) {
+  if (LeadingNumber(from) < 1) return;
+  from = DecPool(from);
+  to = IncPool(to);
+}
+
 }  // namespace
+
+std::string IncPool(const std::string& text) {
+  return PlainText(LeadingNumber(text) + 1);
+}
+
+std::string DecPool(const std::string& text) {
+  const double value = LeadingNumber(text);
+  if (ToInteger(value) < 1) return "0";
+  return PlainText(std::max(value - 1, 0.0));
+}
 
 void PoolPanel::Show(const PlayerRecord& record) {
   for (const Pool& pool : kPools) this->*pool.box = PlainText(record.*pool.field);
@@ -28,6 +46,14 @@ void PoolPanel::Show(const PlayerRecord& record) {
 
 void PoolPanel::Sync(PlayerRecord& record) const {
   for (const Pool& pool : kPools) record.*pool.field = LenientInteger(this->*pool.box);
+}
+
+void PoolPanel::SetAside() {
+  MoveDie(txtSP, txtSD);
+}
+
+void PoolPanel::TakeBack() {
+  MoveDie(txtSD, txtSP);
 }
 
 }  // namespace ng

@@ -6,6 +6,13 @@
 
 namespace ng {
 
+/// The number of a pool's text plus 1, as text.
+std::string IncPool(const std::string& text);
+
+/// The number of a pool's text less 1, as text; "0" when it rounds to less than 1, and never below
+/// "0".
+std::string DecPool(const std::string& text);
+
 /// The pool panel of the displayed combatant: combat, spell, set aside, astral, karma.
 struct PoolPanel {
   std::string txtCP;
@@ -16,6 +23,11 @@ struct PoolPanel {
 
   void Show(const PlayerRecord& record);
   void Sync(PlayerRecord& record) const;
+
+  /// Moves one die from the spell pool to those set aside, or back; nothing when the box it comes
+  /// from has none.
+  void SetAside();
+  void TakeBack();
 };
 
 }  // namespace ng

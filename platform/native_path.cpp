@@ -48,7 +48,7 @@ fs::path NativePath(std::string_view text) {
   if constexpr (fs::path::preferred_separator == '/') {
     std::replace(separated.begin(), separated.end(), '\\', '/');
   }
-  const fs::path exact = FromText(separated);
+  fs::path exact = FromText(separated);
   std::error_code error;
   if (exact.empty() || fs::exists(exact, error)) return exact;
   fs::path resolved;
