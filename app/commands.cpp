@@ -1,7 +1,8 @@
 #include "app/commands.h"
 
 #include <array>
-#include <unordered_map>
+#include <map>
+#include <string>
 
 #include "base/runtime_error.h"
 
@@ -31,12 +32,24 @@ void Edit(Session& session, const Act& act) {
 /// An edit of a text box that stands once for each weapon.
 template <PerWeapon<std::string> WeaponPanel::*box>
 void EditWeapon(Session& session, const Act& act) {
-  session.main.Box_Change((session.main.weapons.*box)[Element(act)], act.text);
+  session.main.WeaponBox_Change((session.main.weapons.*box)[Element(act)], act.text);
 }
 
-template <PerWeapon<bool> WeaponPanel::*box>
-void CheckWeapon(Session& session, const Act& act) {
-  session.main.Check_Click((session.main.weapons.*box)[Element(act)]);
+Weapon WeaponOf(const Act& act) { return Element(act) == 0 ? Weapon::Primary : Weapon::Secondary; }
+
+template <Sight sight>
+void ClickSight(Session& session, const Act& act) {
+  session.main.Sight_Click(WeaponOf(act), sight);
+}
+
+template <int rounds>
+void Fire(Session& session, const Act& act) {
+  session.main.firing.Fire(WeaponOf(act), rounds);
+}
+
+template <SkillUse use>
+void ChooseSkill(Session& session, const Act&) {
+  session.main.ChooseSkill(use);
 }
 
 /// A command that takes the act's index: a row, a code, a choice.
@@ -50,9 +63,7 @@ void MainText(Session& session, const Act& act) {
   (session.main.*function)(act.text);
 }
 
-Track TrackOf(const Act& act) {
-  return Element(act) == 0 ? Track::Physical : Track::Stun;
-}
+Track TrackOf(const Act& act) { return Element(act) == 0 ? Track::Physical : Track::Stun; }
 
 /// A wound of so many boxes on the track that the act names.
 template <int boxes>
@@ -71,6 +82,31 @@ void ChooseRange(Session& session, const Act& act) {
   const int ranges = static_cast<int>(kRanges);
   session.main.optRangeSel(act.index < ranges ? Weapon::Primary : Weapon::Secondary,
                            act.index % ranges);
+}
+
+/// A command of the dice roller that takes the act's index.
+template <void (DiceRoller::*function)(int)>
+void Roller(Session& session, const Act& act) {
+  (session.main.ngdr.*function)(act.index);
+}
+
+/// An edit of one of the dice roller's boxes.
+template <void (DiceRoller::*function)(const std::string&)>
+void RollerBox(Session& session, const Act& act) {
+  (session.main.ngdr.*function)(act.text);
+}
+
+constexpr std::string_view kRollerPrefix = "ngdr.";
+
+/// A click on any of the captions beside the modifier boxes.
+void ClickCaption(Session& session, const Act& act) {
+  const std::string_view control = std::string_view(act.control).substr(kRollerPrefix.size());
+  session.main.ngdr.Caption_Click(*FindCaption(control));
+}
+
+void OpenTestPage(Session& session, const Act& act) {
+  if (act.index < 0 || act.index > static_cast<int>(TestPage::General)) ThrowSubscript();
+  session.main.ngdr.tabTest_Click(static_cast<TestPage>(act.index));
 }
 
 const auto kCommands = std::to_array<Command>({
@@ -109,6 +145,8 @@ const auto kCommands = std::to_array<Command>({
 
     {"mnuViewOptions", Main<&MainForm::mnuViewOptions>, Menu::View, 0, "&Options...", "Ctrl+,",
      "Choose the directories and switches"},
+    {"ShowRoller", Main<&MainForm::ShowRoller>, Menu::View, 1, "Dice &Roller", "F12",
+     "Show the dice roller"},
     {"mnuViewStatusBar", Main<&MainForm::mnuViewStatusBar>, Menu::View, 1, "&Status Bar", "Ctrl+/",
      "Show or hide the status bar", "", "", true},
     {"mnuViewDark", Main<&MainForm::mnuViewDark>, Menu::View, 1, "&Dark Colours", "Ctrl+Shift+D",
@@ -140,11 +178,25 @@ const auto kCommands = std::to_array<Command>({
     {"txtTBTT", EditWeapon<&WeaponPanel::txtTBTT>},
     {"txtRC", EditWeapon<&WeaponPanel::txtRC>},
     {"txtGyro", EditWeapon<&WeaponPanel::txtGyro>},
-    {"chkSmL", CheckWeapon<&WeaponPanel::chkSmL>},
-    {"chkLaserSight", CheckWeapon<&WeaponPanel::chkLaserSight>},
-    {"chkSmtGoggles", CheckWeapon<&WeaponPanel::chkSmtGoggles>},
-    {"chkTwoGuns", [](Session& s, const Act&) { s.main.Check_Click(s.main.weapons.chkTwoGuns); }},
+    {"chkSmL", ClickSight<Sight::Smartlink>},
+    {"chkLaserSight", ClickSight<Sight::Laser>},
+    {"chkSmtGoggles", ClickSight<Sight::Goggles>},
+    {"chkTwoGuns", Main<&MainForm::chkTwoGuns_Click>},
     {"optRangeSel", ChooseRange},
+    {"cmdShots1", Fire<1>},
+    {"cmdShots3", Fire<3>},
+    {"cmdShotsFA", [](Session& s, const Act& a) { s.main.firing.FullAuto(WeaponOf(a)); }},
+    {"cmdShotsZ", [](Session& s, const Act& a) { s.main.firing.Reload(WeaponOf(a)); }},
+    {"cmdDisarm", [](Session& s, const Act& a) { s.main.cmdDisarm(WeaponOf(a)); }},
+    {"cmdSetPrim", [](Session& s, const Act&) { s.main.cmdSetWeapon(Weapon::Primary); }},
+    {"cmdSetSecond", [](Session& s, const Act&) { s.main.cmdSetWeapon(Weapon::Secondary); }},
+    {"cmdSkillPrimary", ChooseSkill<SkillUse::Primary>},
+    {"cmdSkillSecondary", ChooseSkill<SkillUse::Secondary>},
+    {"cmdMeleeSkill", ChooseSkill<SkillUse::Unarmed>},
+    {"cmdUnarmed", [](Session& s, const Act&) { s.main.skillTests.Unarmed(); }},
+    {"cmdBody", [](Session& s, const Act&) { s.main.skillTests.BodyTest(); }},
+    {"lstActive_Select", MainIndexed<&MainForm::lstActive_Select>},
+    {"lstWeapon_Select", MainIndexed<&MainForm::lstWeapon_Select>},
     {"txtCP", Edit<&MainForm::pools, &PoolPanel::txtCP>},
     {"txtSP", Edit<&MainForm::pools, &PoolPanel::txtSP>},
     {"txtSD", Edit<&MainForm::pools, &PoolPanel::txtSD>},
@@ -167,6 +219,28 @@ const auto kCommands = std::to_array<Command>({
     {"lstWeapon_Check", MainIndexed<&MainForm::lstWeapon_Check>},
     {"lstGear_Check", MainIndexed<&MainForm::lstGear_Check>},
     {"txtNotes", MainText<&MainForm::txtNotes_Change>},
+
+    {"ngdr.tabTest", OpenTestPage},
+    {"ngdr.cmdRoll", [](Session& s, const Act&) { s.main.ngdr.cmdRoll(); }},
+    {"ngdr.cmdDicePlusMinus", Roller<&DiceRoller::cmdDicePlusMinus>},
+    {"ngdr.cmdCPplusMinus", Roller<&DiceRoller::cmdCPplusMinus>},
+    {"ngdr.cmdZeroAll", [](Session& s, const Act&) { s.main.ngdr.cmdZeroAll(); }},
+    {"ngdr.cmbVisability", Roller<&DiceRoller::cmbVisability_Click>},
+    {"ngdr.cmbVisability2", Roller<&DiceRoller::cmbVisability2_Click>},
+    {"ngdr.cmbAttackerMove", Roller<&DiceRoller::cmbAttackerMove_Click>},
+    {"ngdr.txtRVar", [](Session& s, const Act& a) { s.main.ngdr.txtRVar_Change(a.index, a.text); }},
+    {"ngdr.txtRVar_Clear", Roller<&DiceRoller::ClearBox>},
+    {"ngdr.txtNumDice", RollerBox<&DiceRoller::txtNumDice_Change>},
+    {"ngdr.txtTargetNum", RollerBox<&DiceRoller::txtTargetNum_Change>},
+    {"ngdr.txtCPx", RollerBox<&DiceRoller::txtCPx_Change>},
+    {"ngdr.txtRangeTargetNumber", RollerBox<&DiceRoller::txtRangeTargetNumber_Change>},
+    {"ngdr.txtMeleeNumber", RollerBox<&DiceRoller::txtMeleeNumber_Change>},
+    {"ngdr.txtLastSuccesses",
+     [](Session& s, const Act& a) { s.main.ngdr.txtLastSuccesses = a.text; }},
+    {"ngdr.Hide", [](Session& s, const Act&) { s.main.ngdr.visible = false; }},
+    {"frmSelSkillLevel.cmdSkillSelect",
+     [](Session& s, const Act& a) { s.main.skillLevel.cmdSkillSelect_Click(a.index); }},
+    {"frmSelSkillLevel.Close", [](Session& s, const Act&) { s.main.skillLevel.Form_Close(); }},
 
     {"frmLoader.Drive1", [](Session& s, const Act& a) { s.loader.Drive1_Change(a.text); }},
     {"frmLoader.DirListBox", [](Session& s, const Act& a) { s.loader.DirListBox_Change(a.text); }},
@@ -193,18 +267,18 @@ constexpr auto kToolbarKeys = std::to_array<const char*>(
 
 }  // namespace
 
-std::span<const Command> Commands() {
-  return kCommands;
-}
+std::span<const Command> Commands() { return kCommands; }
 
-std::span<const char* const> ToolbarKeys() {
-  return kToolbarKeys;
-}
+std::span<const char* const> ToolbarKeys() { return kToolbarKeys; }
 
 const Command* FindCommand(std::string_view name) {
   static const auto byName = [] {
-    std::unordered_map<std::string_view, const Command*> map;
+    std::map<std::string, const Command*, std::less<>> map;
     for (const Command& command : kCommands) map.emplace(command.name, &command);
+    static constexpr Command kCaption{"ngdr.Caption", ClickCaption};
+    for (const Caption& caption : Captions()) {
+      map.emplace(std::string(kRollerPrefix) + caption.control, &kCaption);
+    }
     return map;
   }();
   const auto found = byName.find(name);

@@ -1,6 +1,8 @@
 #include "app/controls.h"
 
 #include "app/main_form.h"
+#include "base/number_text.h"
+#include "base/text.h"
 
 namespace ng {
 namespace {
@@ -63,6 +65,26 @@ void VisitCombatPage(const MainForm& form, ControlVisitor& visitor) {
   VisitChecks(visitor, "chkLaserSight", weapons.chkLaserSight);
   VisitChecks(visitor, "chkSmtGoggles", weapons.chkSmtGoggles);
   visitor.Check({"chkTwoGuns"}, weapons.chkTwoGuns);
+  visitor.Text({"lblWPrim"}, weapons.lblWPrim);
+  visitor.Text({"lblWSec"}, weapons.lblWSec);
+  visitor.Text({"lblTNMod"}, weapons.lblTNMod);
+  visitor.Text({"lblLeft", 0}, form.RoundsLeft(Weapon::Primary));
+  visitor.Text({"lblLeft", 1}, form.RoundsLeft(Weapon::Secondary));
+}
+
+/// The name and the level of the skill that a weapon is fired with.
+void VisitSkill(ControlVisitor& visitor, const char* nameLabel, const char* levelLabel,
+                const std::string& line, Integer level) {
+  visitor.Text({nameLabel}, std::string(Piece(line, '\t', 0)));
+  visitor.Text({levelLabel}, line.empty() ? "" : PlainText(level));
+}
+
+void VisitSkillsAndPools(const MainForm& form, ControlVisitor& visitor) {
+  const PlayerRecord& record = form.fight.Players[form.fight.CurrentPCpointer];
+  VisitSkill(visitor, "lblSkillPrimary", "lblSkillPrimaryLevel", record.SkillPrimaryName,
+             record.SkillPrimaryValue);
+  VisitSkill(visitor, "lblSkillSecondary", "lblSkillSecondaryLevel", record.SkillSecondaryName,
+             record.SkillSecondaryValue);
 
   const PoolPanel& pools = form.pools;
   visitor.Text({"txtCP"}, pools.txtCP);
@@ -71,7 +93,7 @@ void VisitCombatPage(const MainForm& form, ControlVisitor& visitor) {
   visitor.Text({"txtAS"}, pools.txtAS);
   visitor.Text({"txtKP"}, pools.txtKP);
   visitor.List({"lstActive"}, form.sheet.lstActive);
-  visitor.Text({"lblSkill"}, form.lblSkill);
+  visitor.Text({"lblSkill"}, form.skillTests.lblSkill);
 }
 
 void VisitSheet(const MainForm& form, ControlVisitor& visitor) {
@@ -104,10 +126,43 @@ void VisitSheet(const MainForm& form, ControlVisitor& visitor) {
 
 }  // namespace
 
+void VisitRollerControls(const MainForm& form, ControlVisitor& visitor) {
+  const DiceRoller& roller = form.ngdr;
+  const PlayerRecord& record = form.fight.Players[form.fight.CurrentPCpointer];
+  visitor.Text({"lblName"}, record.Name);
+  visitor.Text({"lblSkill"}, std::string(Piece(roller.lblSkill, '\t', 0)));
+  visitor.Text({"lblDamageCode"}, roller.DamageCode);
+  visitor.Text({"lblBulletCount"}, PlainText(roller.BulletCount));
+  visitor.Text({"lblBody"}, roller.Body);
+  visitor.Text({"lblArmour"}, PlainText(record.ArmorBAL) + " / " + PlainText(record.ArmorIMP));
+  visitor.Choice({"tabTest"}, static_cast<int>(roller.tabTest));
+  visitor.Text({"txtRangeTargetNumber"}, roller.txtRangeTargetNumber);
+  visitor.Text({"txtMeleeNumber"}, roller.txtMeleeNumber);
+  visitor.List({"cmbVisability"}, roller.visibilityNames);
+  visitor.Choice({"cmbVisability"}, roller.cmbVisability.index);
+  visitor.List({"cmbVisability2"}, roller.visibilityNames);
+  visitor.Choice({"cmbVisability2"}, roller.cmbVisability2.index);
+  visitor.Choice({"cmbAttackerMove"}, roller.cmbAttackerMove);
+  for (int box = 1; box <= roller.board.txtRVar.kLast; ++box) {
+    visitor.Text({"txtRVar", box}, roller.board.txtRVar[box]);
+  }
+  visitor.Text({"lblSum"}, roller.lblSum);
+  visitor.Text({"txtNumDice"}, roller.txtNumDice);
+  visitor.Text({"txtTargetNum"}, roller.txtTargetNum);
+  visitor.Text({"lblOdds"}, roller.OddsLine());
+  visitor.Text({"txtCPx"}, roller.txtCPx);
+  visitor.Text({"txtSuccess"}, roller.txtSuccess);
+  visitor.Text({"txtHighNumber"}, roller.txtHighNumber);
+  visitor.Text({"txtLastSuccesses"}, roller.txtLastSuccesses);
+  visitor.Text({"txtResult"}, roller.txtResult);
+  visitor.Check({"lblRuleOfOne"}, roller.lblRuleOfOne);
+}
+
 void VisitControls(const MainForm& form, ControlVisitor& visitor) {
   visitor.Grid({"GridX"}, form.GridX);
   VisitHeader(form, visitor);
   VisitCombatPage(form, visitor);
+  VisitSkillsAndPools(form, visitor);
   VisitSheet(form, visitor);
   visitor.Choice({"tabMain"}, form.tabMain);
   visitor.Check({"mnuPDelay"}, form.actions.delayChecked);

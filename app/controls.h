@@ -10,8 +10,6 @@
 namespace ng {
 
 class MainForm;
-class LoaderForm;
-class OptionsForm;
 
 /// A control by its name, with its index where it is an element of a control array.
 struct ControlName {
@@ -28,16 +26,20 @@ class ControlVisitor {
   virtual ~ControlVisitor() = default;
   /// Labels and text boxes.
   virtual void Text(ControlName control, const std::string& text) = 0;
-  /// Check boxes and menu entries with a mark.
+  /// Check boxes, menu entries with a mark, and labels that are shown or hidden.
   virtual void Check(ControlName control, bool checked) = 0;
   /// Option groups, tabs and combo boxes: the index chosen.
   virtual void Choice(ControlName control, int chosen) = 0;
   /// Damage bars: boxes filled, 0 to 10.
   virtual void Level(ControlName control, int boxes) = 0;
+  /// List boxes, and the entries of combo boxes.
   virtual void List(ControlName control, const std::vector<std::string>& lines) = 0;
   virtual void CheckList(ControlName control, const std::vector<CarriedLine>& lines) = 0;
   virtual void Grid(ControlName control, const InitiativeGrid& grid) = 0;
 };
+
+/// Every control of the dice roller's window, whose names are its own.
+void VisitRollerControls(const MainForm& form, ControlVisitor& visitor);
 
 /// Every control of the main window, always in the same order.
 void VisitControls(const MainForm& form, ControlVisitor& visitor);

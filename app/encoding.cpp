@@ -19,12 +19,8 @@ std::string Exchange(std::string_view text, std::string_view from, std::string_v
 
 }  // namespace
 
-std::string EncodeNG3(std::string_view text) {
-  return Exchange(text, kPlain, kEscaped);
-}
+std::string EncodeNG3(std::string_view text) { return Exchange(text, kPlain, kEscaped); }
 
-std::string DecodeNG3(std::string_view text) {
-  return Exchange(text, kEscaped, kPlain);
-}
+std::string DecodeNG3(std::string_view text) { return Exchange(text, kEscaped, kPlain); }
 
 }  // namespace ng

@@ -41,6 +41,11 @@ MainForm::MainForm(Environment& environment, LoaderForm& loader, OptionsForm& op
       sequencer(fight, GridX, environment.uniform, environment.prompts, *this),
       actions(fight, characters, GridX, sequencer, gmLog, environment.prompts, *this),
       damageMonitor(fight, damage, sequencer),
+      ngdr(
+          fight, environment.uniform, environment.prompts, [this](Integer left) { CP(left); },
+          [this](Weapon weapon) { return WieldsInMelee(weapon); }),
+      firing(fight, characters, weapons, ngdr, gmLog, environment.prompts, environment.settings),
+      skillTests(fight, firing, ngdr, skillLevel, environment.prompts, environment.settings),
       environment_(environment),
       loader_(loader),
       options_(options) {}
@@ -72,9 +77,7 @@ void MainForm::Form_Unload() {
   }
 }
 
-void MainForm::mnuFileNew() {
-  actions.RemoveAll();
-}
+void MainForm::mnuFileNew() { actions.RemoveAll(); }
 
 void MainForm::mnuFileOpen() {
   loader_.Form_Load();
@@ -108,42 +111,26 @@ void MainForm::ImportCharacter(const std::string& name) {
   RecalcArmor();
 }
 
-void MainForm::mnuTReroll() {
-  sequencer.Reroll(environment_.settings.CloneInit);
-}
+void MainForm::mnuTReroll() { sequencer.Reroll(environment_.settings.CloneInit); }
 
-void MainForm::mnuTReset() {
-  sequencer.Reset();
-}
+void MainForm::mnuTReset() { sequencer.Reset(); }
 
-void MainForm::mnuTNext() {
-  sequencer.Next();
-}
+void MainForm::mnuTNext() { sequencer.Next(); }
 
-void MainForm::mnuTPrev() {
-  sequencer.Previous();
-}
+void MainForm::mnuTPrev() { sequencer.Previous(); }
 
-void MainForm::mnuTClear() {
-  sequencer.ClearEvents();
-}
+void MainForm::mnuTClear() { sequencer.ClearEvents(); }
 
-void MainForm::mnuPDelay() {
-  actions.ToggleDelay();
-}
+void MainForm::mnuPDelay() { actions.ToggleDelay(); }
 
 void MainForm::mnuPInactive() {
   actions.ToggleInactive();
   ShowHeader();
 }
 
-void MainForm::mnuPGrenade() {
-  actions.Grenade();
-}
+void MainForm::mnuPGrenade() { actions.Grenade(); }
 
-void MainForm::mnuPRocket() {
-  actions.Rocket();
-}
+void MainForm::mnuPRocket() { actions.Rocket(); }
 
 void MainForm::mnuPMult() {
   SyncSheet();
@@ -155,9 +142,7 @@ void MainForm::mnuPMult() {
                                       PlainText(asked) + " copies made";
 }
 
-void MainForm::mnuPRemove() {
-  actions.Remove();
-}
+void MainForm::mnuPRemove() { actions.Remove(); }
 
 void MainForm::mnuViewOptions() {
   options_.Form_Load();
@@ -171,9 +156,7 @@ void MainForm::GridX_Click(int row) {
   GridX.SetCurrent(row, InitiativeGrid::kRollColumn);
 }
 
-void MainForm::GridX_Cell(int row, int column) {
-  GridX.SetCurrent(row, column);
-}
+void MainForm::GridX_Cell(int row, int column) { GridX.SetCurrent(row, column); }
 
 void MainForm::GridX_KeyPress(int code) {
   if (!GridX.TypeCharacter(code)) return;
@@ -215,19 +198,65 @@ void MainForm::Box_Change(std::string& box, const std::string& text) {
   SyncSheet();
 }
 
-void MainForm::Check_Click(bool& box) {
+void MainForm::WeaponBox_Change(std::string& box, const std::string& text) {
   if (!Displaying()) return;
-  box = !box;
+  box = text;
+  firing.TakeRoundCounters();
+  UpdateWeapons();
+}
+
+void MainForm::chkTwoGuns_Click() {
+  if (!Displaying()) return;
+  weapons.chkTwoGuns = !weapons.chkTwoGuns;
+  UpdateWeapons();
+}
+
+void MainForm::Sight_Click(Weapon weapon, Sight sight) {
+  if (!Displaying()) return;
+  weapons.ClickSight(weapon, sight);
+  UpdateWeapons();
+}
+
+void MainForm::UpdateWeapons() {
+  firing.UpdateWeaponModifiers();
   SyncSheet();
+}
+
+void MainForm::cmdDisarm(Weapon weapon) { firing.Disarm(weapon); }
+
+void MainForm::cmdSetWeapon(Weapon weapon) {
+  if (lstWeaponIndex < 0 || lstWeaponIndex >= static_cast<int>(sheet.lstWeapon.size())) return;
+  firing.Ready(weapon, sheet.lstWeapon[static_cast<std::size_t>(lstWeaponIndex)].text, rangeTable);
+}
+
+void MainForm::ChooseSkill(SkillUse use) {
+  if (lstActiveIndex < 0 || lstActiveIndex >= static_cast<int>(sheet.lstActive.size())) return;
+  skillTests.ChooseSkill(use, sheet.lstActive[static_cast<std::size_t>(lstActiveIndex)]);
+}
+
+void MainForm::ShowRoller() {
+  if (environment_.settings.DisableNGDR) {
+    statusMessage = "The dice roller is switched off in the options";
+    return;
+  }
+  ngdr.visible = true;
+}
+
+bool MainForm::WieldsInMelee(Weapon weapon) const {
+  const PlayerRecord& record = fight.Players[fight.CurrentPCpointer];
+  return IsMeleeWeaponType(ConvertSkill(
+      skillTable, weapon == Weapon::Primary ? record.SkillPrimaryName : record.SkillSecondaryName));
 }
 
 void MainForm::Damage(Track track, Integer boxes) {
   damageMonitor.ApplyDamage(track, boxes);
+  firing.UpdateWeaponModifiers();
   ShowHeader();
 }
 
 void MainForm::cmdDamZero(Track track) {
   damageMonitor.ClearTrack(track);
+  firing.UpdateWeaponModifiers();
   ShowHeader();
 }
 
@@ -259,19 +288,14 @@ void MainForm::optRangeSel(Weapon weapon, int range) {
   if (!Displaying()) return;
   (weapon == Weapon::Primary ? Displayed().RangeSelPrim : Displayed().RangeSelSec) = range;
   weapons.optRangeSel[static_cast<std::size_t>(weapon)] = range;
+  ngdr.optRangeSel_Click();
 }
 
-void MainForm::lstArmor_Check(int index) {
-  ToggleCarried(&CharacterEntry::armour, index);
-}
+void MainForm::lstArmor_Check(int index) { ToggleCarried(&CharacterEntry::armour, index); }
 
-void MainForm::lstWeapon_Check(int index) {
-  ToggleCarried(&CharacterEntry::weapons, index);
-}
+void MainForm::lstWeapon_Check(int index) { ToggleCarried(&CharacterEntry::weapons, index); }
 
-void MainForm::lstGear_Check(int index) {
-  ToggleCarried(&CharacterEntry::gear, index);
-}
+void MainForm::lstGear_Check(int index) { ToggleCarried(&CharacterEntry::gear, index); }
 
 void MainForm::ToggleCarried(std::vector<CarriedLine> CharacterEntry::*list, int index) {
   CharacterEntry* entry = Displaying() ? characters.Of(Displayed()) : nullptr;
@@ -298,6 +322,10 @@ void MainForm::tabMain_Click(int page) {
 
 void MainForm::XFerPC(Slot slot) {
   const PlayerRecord& record = fight.Players[slot];
+  if (slot != fight.CurrentPCpointer) {
+    lstActiveIndex = -1;
+    lstWeaponIndex = -1;
+  }
   fight.CurrentPCpointer = slot;
   header.Show(record);
   damage.Show(record);
@@ -305,7 +333,10 @@ void MainForm::XFerPC(Slot slot) {
   pools.Show(record);
   sheet.ShowCharacter(characters.Of(record));
   sheet.ShowArmourOf(record);
-  lblSkill = record.Skill;
+  firing.TakeRoundCounters();
+  firing.UpdateWeaponModifiers();
+  ngdr.Body = AugmentedValue(sheet.lblAttr[static_cast<std::size_t>(Attribute::Body)]);
+  skillTests.lblSkill = record.Skill;
   txtNotes = record.Notes;
   txtNoteFileName = record.NoteFileName;
   actions.delayChecked = static_cast<bool>(record.Delay);
@@ -327,16 +358,12 @@ void MainForm::SyncSheet() {
   damage.Sync(record);
   weapons.Sync(record);
   pools.Sync(record);
-  record.Skill = lblSkill;
+  record.Skill = skillTests.lblSkill;
 }
 
-void MainForm::RefreshPools() {
-  ng::RefreshPools(fight, characters);
-}
+void MainForm::RefreshPools() { ng::RefreshPools(fight, characters); }
 
-void MainForm::ZeroRoundCounters() {
-  roundsFired_ = {};
-}
+void MainForm::ZeroRoundCounters() { firing.ZeroRoundCounters(); }
 
 std::string MainForm::TurnBadge() const {
   if (!Displaying()) return "\x96";
@@ -346,8 +373,11 @@ std::string MainForm::TurnBadge() const {
   return record.SetGreen ? "On turn" : "Waiting";
 }
 
-int MainForm::ShownRow() const {
-  return fight.FindInOrder(fight.CurrentPCpointer).Value();
+std::string MainForm::RoundsLeft(Weapon weapon) const {
+  const bool magazine = !weapons.lblAmmo[static_cast<std::size_t>(weapon)].empty();
+  return magazine ? PlainText(firing.AmmoLeft(weapon)) : "";
 }
+
+int MainForm::ShownRow() const { return fight.FindInOrder(fight.CurrentPCpointer).Value(); }
 
 }  // namespace ng

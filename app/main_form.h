@@ -8,7 +8,9 @@
 #include "app/settings.h"
 #include "base/ports.h"
 #include "combat/damage_monitor.h"
+#include "combat/firing.h"
 #include "combat/pools.h"
+#include "combat/skill_tests.h"
 #include "combat/weapons.h"
 #include "import/character_display.h"
 #include "import/character_import.h"
@@ -16,6 +18,8 @@
 #include "import/reference_tables.h"
 #include "notes/gm_log.h"
 #include "notes/info_index.h"
+#include "roller/dice_roller.h"
+#include "roller/skill_level.h"
 #include "tracker/actions.h"
 #include "tracker/fight.h"
 #include "tracker/grid.h"
@@ -87,7 +91,13 @@ class MainForm : private SequencerHost {
   PoolPanel pools;
   SheetPanel sheet;
   DamageMonitor damageMonitor;
-  std::string lblSkill;
+  DiceRoller ngdr;
+  SkillLevelForm skillLevel;
+  Firing firing;
+  SkillTests skillTests;
+  /// The lines marked in the lists, -1 for none.
+  int lstActiveIndex = -1;
+  int lstWeaponIndex = -1;
   std::string txtNotes;
   std::string txtNoteFileName;
   bool statusBarVisible = true;
@@ -139,8 +149,6 @@ class MainForm : private SequencerHost {
   void txtReac_Change(int index, const std::string& text);
   /// A box of the combat page was edited: takes the text over into the record at once.
   void Box_Change(std::string& box, const std::string& text);
-  /// Inverts a check box of the combat page.
-  void Check_Click(bool& box);
   /// Wounds of the damage panel: boxes added, or taken away when negative.
   void Damage(Track track, Integer boxes);
   void cmdDamZero(Track track);
@@ -153,6 +161,19 @@ class MainForm : private SequencerHost {
   /// Takes over the combat pool that a test left.
   void CP(Integer value);
   void optRangeSel(Weapon weapon, int range);
+  /// A box that recoil hangs on was edited.
+  void WeaponBox_Change(std::string& box, const std::string& text);
+  void chkTwoGuns_Click();
+  void Sight_Click(Weapon weapon, Sight sight);
+  void cmdDisarm(Weapon weapon);
+  /// Takes the marked line of the weapon list into a hand.
+  void cmdSetWeapon(Weapon weapon);
+  /// Uses the marked line of the active skills.
+  void ChooseSkill(SkillUse use);
+  void lstActive_Select(int index) { lstActiveIndex = index; }
+  void lstWeapon_Select(int index) { lstWeaponIndex = index; }
+  /// Shows the dice roller; says in the status bar when the options have switched it off.
+  void ShowRoller();
   void lstArmor_Check(int index);
   void lstWeapon_Check(int index);
   void lstGear_Check(int index);
@@ -169,6 +190,8 @@ class MainForm : private SequencerHost {
   std::string TurnBadge() const;
   /// The grid row of the displayed combatant, 0 for none.
   int ShownRow() const;
+  /// Rounds left in a weapon's magazine; empty for a weapon without one.
+  std::string RoundsLeft(Weapon weapon) const;
 
  private:
   void SyncSheet() override;
@@ -182,13 +205,13 @@ class MainForm : private SequencerHost {
   void ImportCharacter(const std::string& name);
   /// Shows what an action may have changed of the displayed combatant.
   void ShowHeader() { header.Show(fight.Players[fight.CurrentPCpointer]); }
+  void UpdateWeapons();
+  bool WieldsInMelee(Weapon weapon) const;
   void ToggleCarried(std::vector<CarriedLine> CharacterEntry::*list, int index);
 
   Environment& environment_;
   LoaderForm& loader_;
   OptionsForm& options_;
-  /// Rounds fired by each weapon in this step.
-  PerWeapon<Integer> roundsFired_;
 };
 
 }  // namespace ng

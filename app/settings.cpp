@@ -19,9 +19,7 @@ Boolean ReadSwitch(Files& files, const ProgramLocation& location, const char* ke
   return {!text.empty() && text != "0"};
 }
 
-int CheckBoxState(Boolean flag) {
-  return flag ? 1 : 0;
-}
+int CheckBoxState(Boolean flag) { return flag ? 1 : 0; }
 
 }  // namespace
 

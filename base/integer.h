@@ -28,9 +28,7 @@ class Integer {
   friend constexpr Integer operator-(Integer a, Integer b) { return {a.value_ - b.value_}; }
   friend constexpr Integer operator*(Integer a, Integer b) { return {a.value_ * b.value_}; }
   friend constexpr bool operator==(Integer a, Integer b) = default;
-  friend constexpr auto operator<=>(Integer a, Integer b) {
-    return a.value_ <=> b.value_;
-  }
+  friend constexpr auto operator<=>(Integer a, Integer b) { return a.value_ <=> b.value_; }
 
  private:
   std::int16_t value_ = 0;

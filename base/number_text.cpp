@@ -10,9 +10,7 @@
 namespace ng {
 namespace {
 
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 }  // namespace
 
@@ -47,9 +45,7 @@ double LeadingNumber(std::string_view text) {
   return negative ? -value : value;
 }
 
-Integer LenientInteger(std::string_view text) {
-  return ToInteger(LeadingNumber(text));
-}
+Integer LenientInteger(std::string_view text) { return ToInteger(LeadingNumber(text)); }
 
 std::int32_t LenientLong(std::string_view text) {
   const double rounded = RoundHalfEven(LeadingNumber(text));
@@ -79,17 +75,13 @@ std::string PlainText(double value) {
   return {buffer.data(), result.ptr};
 }
 
-std::string PlainText(Integer value) {
-  return std::to_string(value.Value());
-}
+std::string PlainText(Integer value) { return std::to_string(value.Value()); }
 
 std::string PrintForm(std::int32_t value) {
   return (value < 0 ? "" : " ") + std::to_string(value) + " ";
 }
 
-std::string PrintForm(Integer value) {
-  return PrintForm(std::int32_t{value.Value()});
-}
+std::string PrintForm(Integer value) { return PrintForm(std::int32_t{value.Value()}); }
 
 std::string TwoDecimals(double value) {
   // Weights are decimal fractions such as 2.345 that binary numbers hold a hair too small; taking
@@ -103,8 +95,6 @@ std::string TwoDecimals(double value) {
   return hundredths < 0 ? "-" + text : text;
 }
 
-std::string SignedText(Integer value) {
-  return (value < 0 ? "" : "+") + PlainText(value);
-}
+std::string SignedText(Integer value) { return (value < 0 ? "" : "+") + PlainText(value); }
 
 }  // namespace ng

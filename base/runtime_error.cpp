@@ -35,12 +35,8 @@ RuntimeError::RuntimeError(ErrorNumber number, const std::string& detail)
   if (!detail.empty()) text_ += "\r\n" + detail;
 }
 
-void ThrowOverflow() {
-  throw RuntimeError(ErrorNumber::Overflow);
-}
+void ThrowOverflow() { throw RuntimeError(ErrorNumber::Overflow); }
 
-void ThrowSubscript() {
-  throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
-}
+void ThrowSubscript() { throw RuntimeError(ErrorNumber::SubscriptOutOfRange); }
 
 }  // namespace ng

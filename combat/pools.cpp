@@ -30,9 +30,7 @@ void MoveDie(std::string& from, std::string& to) {
 
 }  // namespace
 
-std::string IncPool(const std::string& text) {
-  return PlainText(LeadingNumber(text) + 1);
-}
+std::string IncPool(const std::string& text) { return PlainText(LeadingNumber(text) + 1); }
 
 std::string DecPool(const std::string& text) {
   const double value = LeadingNumber(text);
@@ -48,12 +46,8 @@ void PoolPanel::Sync(PlayerRecord& record) const {
   for (const Pool& pool : kPools) record.*pool.field = LenientInteger(this->*pool.box);
 }
 
-void PoolPanel::SetAside() {
-  MoveDie(txtSP, txtSD);
-}
+void PoolPanel::SetAside() { MoveDie(txtSP, txtSD); }
 
-void PoolPanel::TakeBack() {
-  MoveDie(txtSD, txtSP);
-}
+void PoolPanel::TakeBack() { MoveDie(txtSD, txtSP); }
 
 }  // namespace ng

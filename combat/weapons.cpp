@@ -25,13 +25,30 @@ constexpr std::array<TextPair, 5> kBoxes = {{
     {&WeaponPanel::txtURC, {&PlayerRecord::URCPrim, &PlayerRecord::URCSec}},
 }};
 
-/// The figures of the weapons in hand.
-constexpr std::array<TextPair, 3> kFigures = {{
-    {&WeaponPanel::lblDamage,
-     {&PlayerRecord::PrimWeapStatDamage, &PlayerRecord::SecWeapStatDamage}},
-    {&WeaponPanel::lblConceal,
-     {&PlayerRecord::PrimWeapStatCclrch, &PlayerRecord::SecWeapStatCclrch}},
-    {&WeaponPanel::lblAmmo, {&PlayerRecord::PrimWeapStatAmmo, &PlayerRecord::SecWeapStatAmmo}},
+/// The figures of a weapon in hand: the record's field, the label, and where it is put from.
+struct FigureFields {
+  PerWeapon<Member<std::string>> fields;
+  PerWeapon<std::string> WeaponPanel::*label;
+  std::string WeaponFigures::*figure;
+};
+constexpr std::array<FigureFields, 3> kFigures = {{
+    {{&PlayerRecord::PrimWeapStatDamage, &PlayerRecord::SecWeapStatDamage},
+     &WeaponPanel::lblDamage,
+     &WeaponFigures::damage},
+    {{&PlayerRecord::PrimWeapStatCclrch, &PlayerRecord::SecWeapStatCclrch},
+     &WeaponPanel::lblConceal,
+     &WeaponFigures::concealability},
+    {{&PlayerRecord::PrimWeapStatAmmo, &PlayerRecord::SecWeapStatAmmo},
+     &WeaponPanel::lblAmmo,
+     &WeaponFigures::ammunition},
+}};
+
+constexpr PerWeapon<Member<std::string>> kHands = {&PlayerRecord::PrimHand, &PlayerRecord::SecHand};
+constexpr PerWeapon<std::array<Member<std::string>, kRanges>> kRangeFields = {{
+    {&PlayerRecord::PrimWeapStatRng1, &PlayerRecord::PrimWeapStatRng2,
+     &PlayerRecord::PrimWeapStatRng3, &PlayerRecord::PrimWeapStatRng4},
+    {&PlayerRecord::SecWeapStatRng1, &PlayerRecord::SecWeapStatRng2, &PlayerRecord::SecWeapStatRng3,
+     &PlayerRecord::SecWeapStatRng4},
 }};
 
 constexpr std::array<CheckPair, 3> kSights = {{
@@ -44,22 +61,41 @@ constexpr PerWeapon<std::size_t> kBoth = {0, 1};
 
 }  // namespace
 
+void SetWeapon(PlayerRecord& record, Weapon weapon, const WeaponFigures& figures) {
+  const auto w = static_cast<std::size_t>(weapon);
+  record.*kHands[w] = figures.caption;
+  for (const FigureFields& field : kFigures) record.*field.fields[w] = figures.*field.figure;
+  for (std::size_t i = 0; i < kRanges; ++i) record.*kRangeFields[w][i] = figures.ranges[i];
+}
+
 void WeaponPanel::Show(const PlayerRecord& record) {
-  lblPrimary = record.PrimHand;
-  lblSecondary = record.SecHand;
-  lblPRng = {record.PrimWeapStatRng1, record.PrimWeapStatRng2, record.PrimWeapStatRng3,
-             record.PrimWeapStatRng4};
-  lblSRng = {record.SecWeapStatRng1, record.SecWeapStatRng2, record.SecWeapStatRng3,
-             record.SecWeapStatRng4};
-  optRangeSel = {record.RangeSelPrim.Value(), record.RangeSelSec.Value()};
   for (const std::size_t w : kBoth) {
+    ShowWeapon(record, static_cast<Weapon>(w));
     for (const TextPair& box : kBoxes) (this->*box.control)[w] = record.*box.fields[w];
-    for (const TextPair& figure : kFigures) (this->*figure.control)[w] = record.*figure.fields[w];
     for (const CheckPair& sight : kSights) {
       (this->*sight.control)[w] = record.*sight.fields[w] != 0;
     }
   }
+  optRangeSel = {record.RangeSelPrim.Value(), record.RangeSelSec.Value()};
   chkTwoGuns = record.TwoGuns != 0;
+}
+
+void WeaponPanel::ShowWeapon(const PlayerRecord& record, Weapon weapon) {
+  const auto w = static_cast<std::size_t>(weapon);
+  (weapon == Weapon::Primary ? lblPrimary : lblSecondary) = record.*kHands[w];
+  for (const FigureFields& field : kFigures) (this->*field.label)[w] = record.*field.fields[w];
+  std::array<std::string, kRanges>& ranges = weapon == Weapon::Primary ? lblPRng : lblSRng;
+  for (std::size_t i = 0; i < kRanges; ++i) ranges[i] = record.*kRangeFields[w][i];
+}
+
+void WeaponPanel::ClickSight(Weapon weapon, Sight sight) {
+  const auto w = static_cast<std::size_t>(weapon);
+  const auto chosen = static_cast<std::size_t>(sight);
+  const bool checked = !(this->*kSights[chosen].control)[w];
+  if (checked) {
+    for (const CheckPair& other : kSights) (this->*other.control)[w] = false;
+  }
+  (this->*kSights[chosen].control)[w] = checked;
 }
 
 void WeaponPanel::Sync(PlayerRecord& record) const {

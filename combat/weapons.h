@@ -15,6 +15,21 @@ using PerWeapon = std::array<T, 2>;
 /// The four range brackets.
 constexpr std::size_t kRanges = 4;
 
+/// What a weapon in the hand is described by.
+struct WeaponFigures {
+  std::string caption;
+  std::string damage;
+  std::string concealability;
+  std::string ammunition;
+  std::array<std::string, kRanges> ranges;
+};
+
+/// Puts a weapon into a hand of the record.
+void SetWeapon(PlayerRecord& record, Weapon weapon, const WeaponFigures& figures);
+
+/// The sights of one weapon exclude one another.
+enum class Sight { Smartlink, Laser, Goggles };
+
 /// The weapon panel of the displayed combatant.
 struct WeaponPanel {
   std::string lblPrimary;
@@ -40,9 +55,17 @@ struct WeaponPanel {
   PerWeapon<bool> chkLaserSight{};
   PerWeapon<bool> chkSmtGoggles{};
   bool chkTwoGuns = false;
+  /// Each weapon's total target-number modifier, and the two together.
+  std::string lblWPrim;
+  std::string lblWSec;
+  std::string lblTNMod;
 
   /// Fills every control from a record.
   void Show(const PlayerRecord& record);
+  /// Fills the labels of one weapon from a record.
+  void ShowWeapon(const PlayerRecord& record, Weapon weapon);
+  /// Inverts a sight's check box; checking it unchecks the weapon's other two.
+  void ClickSight(Weapon weapon, Sight sight);
   /// Writes the boxes and check marks into the record.
   void Sync(PlayerRecord& record) const;
 };

@@ -42,9 +42,7 @@ const CarriedLine* MainArmour(const std::vector<CarriedLine>& lines) {
 
 }  // namespace
 
-bool IsBoneLace(const CarriedLine& line) {
-  return Contains(line.text, "Bone Lace");
-}
+bool IsBoneLace(const CarriedLine& line) { return Contains(line.text, "Bone Lace"); }
 
 ArmourFigures DeriveArmour(const CharacterEntry& entry) {
   ArmourFigures figures;

@@ -111,7 +111,7 @@ std::string BoneLaceLine(BoneLace lace, std::string_view impact, std::string_vie
 }
 
 std::string UnarmedLine() {
-  return JoinedWithTab({"Unarmed combat", "(STR)M Stun", "", "", "", ""});
+  return JoinedWithTab({"Unarmed combat", kUnarmedDamage, "", "", "", ""});
 }
 
 void AddItem(const GearTable& table, std::string_view text, CharacterEntry& entry) {

@@ -23,6 +23,9 @@ BoneLace BoneLaceOf(std::string_view line);
 /// ordinary armour lines; the crossing is kept, so that its impact bonus counts as ballistic.
 std::string BoneLaceLine(BoneLace lace, std::string_view impact, std::string_view ballistic);
 
+/// The damage of bare hands.
+constexpr const char* kUnarmedDamage = "(STR)M Stun";
+
 /// The line that heads every weapon list.
 std::string UnarmedLine();
 

@@ -32,13 +32,9 @@ void LoaderForm::DirListBox_Change(const std::string& directory) {
   ListFiles();
 }
 
-void LoaderForm::filesXML_Select(int index) {
-  FileAt(index).selected = true;
-}
+void LoaderForm::filesXML_Select(int index) { FileAt(index).selected = true; }
 
-void LoaderForm::filesXML_Unselect(int index) {
-  FileAt(index).selected = false;
-}
+void LoaderForm::filesXML_Unselect(int index) { FileAt(index).selected = false; }
 
 void LoaderForm::cmdLoad() {
   selectionList.clear();

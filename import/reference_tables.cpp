@@ -104,9 +104,7 @@ int GearColumnIndex(const GearTable& table, Integer category, std::string_view c
   return -1;
 }
 
-std::string_view GearField(std::string_view fields, int index) {
-  return Piece(fields, '|', index);
-}
+std::string_view GearField(std::string_view fields, int index) { return Piece(fields, '|', index); }
 
 std::string ConvertSkill(const SkillTable& table, std::string_view name) {
   for (int index = 0; index <= table.lastIndex; ++index) {

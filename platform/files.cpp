@@ -17,9 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-QString FileName(const fs::path& path) {
-  return QString::fromStdU16String(path.u16string());
-}
+QString FileName(const fs::path& path) { return QString::fromStdU16String(path.u16string()); }
 
 /// Why a file could not be opened, by the platform's number.
 [[noreturn]] void ThrowOpenError(const fs::path& path) {

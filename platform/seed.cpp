@@ -4,8 +4,6 @@
 
 namespace ng {
 
-std::uint32_t RandomSeed() {
-  return QRandomGenerator::global()->generate();
-}
+std::uint32_t RandomSeed() { return QRandomGenerator::global()->generate(); }
 
 }  // namespace ng

@@ -28,9 +28,7 @@ Slot Fight::FindFreeSlot() const {
   return 0;
 }
 
-void Fight::SwapOrder(OrderPosition p, OrderPosition q) {
-  std::swap(InitOrder[p], InitOrder[q]);
-}
+void Fight::SwapOrder(OrderPosition p, OrderPosition q) { std::swap(InitOrder[p], InitOrder[q]); }
 
 void Fight::ClearTurnDone() {
   const Integer n = CountPlayers();
@@ -44,9 +42,7 @@ void Fight::SetGreenAt(OrderPosition p) {
   }
 }
 
-bool Fight::MyTurn() const {
-  return FindInOrder(CurrentPCpointer) == LTurn;
-}
+bool Fight::MyTurn() const { return FindInOrder(CurrentPCpointer) == LTurn; }
 
 const std::vector<FightField>& FightFields() {
   static const std::vector<FightField> fields = {{"NumPlayers", &Fight::NumPlayers},

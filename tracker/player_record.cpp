@@ -106,18 +106,10 @@ const std::vector<PlayerField>& PlayerFields() {
 
 namespace {
 
-std::string ValueText(const std::string& value) {
-  return value;
-}
-std::string ValueText(Integer value) {
-  return PlainText(value);
-}
-std::string ValueText(Boolean value) {
-  return std::to_string(value.Raw());
-}
-std::string ValueText(std::int32_t value) {
-  return std::to_string(value);
-}
+std::string ValueText(const std::string& value) { return value; }
+std::string ValueText(Integer value) { return PlainText(value); }
+std::string ValueText(Boolean value) { return std::to_string(value.Raw()); }
+std::string ValueText(std::int32_t value) { return std::to_string(value); }
 
 }  // namespace
 

@@ -86,9 +86,7 @@ float ScriptedUniform::Next() {
   return value;
 }
 
-std::vector<std::string> ScriptedPrompts::TakeLog() {
-  return std::exchange(log, {});
-}
+std::vector<std::string> ScriptedPrompts::TakeLog() { return std::exchange(log, {}); }
 
 ScriptedPrompts::Answer ScriptedPrompts::TakeAnswer(const std::string& question) {
   log.push_back(question);
@@ -98,9 +96,7 @@ ScriptedPrompts::Answer ScriptedPrompts::TakeAnswer(const std::string& question)
   return answer;
 }
 
-void ScriptedPrompts::Message(std::string_view text) {
-  log.push_back("message " + Quoted(text));
-}
+void ScriptedPrompts::Message(std::string_view text) { log.push_back("message " + Quoted(text)); }
 
 std::string ScriptedPrompts::Input(std::string_view prompt) {
   return TakeAnswer("input " + Quoted(prompt)).text;

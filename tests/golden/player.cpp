@@ -21,6 +21,7 @@ class NoWindows : public StartupWindows {
   void ShowSplash() override {}
   void LoadMain() override {}
   void UnloadSplash() override {}
+  void LoadRoller() override {}
   void ShowMain() override {}
 };
 

@@ -1,6 +1,7 @@
 #include "golden/snapshot.h"
 
 #include <map>
+#include <utility>
 
 #include "app/controls.h"
 #include "base/number_text.h"
@@ -26,7 +27,8 @@ const char* ColourName(InitiativeGrid::Colour colour) {
 
 class SnapshotVisitor : public ControlVisitor {
  public:
-  explicit SnapshotVisitor(Snapshot& snapshot) : snapshot_(snapshot) {}
+  SnapshotVisitor(Snapshot& snapshot, std::string prefix)
+      : snapshot_(snapshot), prefix_(std::move(prefix)) {}
 
   void Text(ControlName control, const std::string& text) override {
     Add(Name(control), Quoted(text));
@@ -61,8 +63,8 @@ class SnapshotVisitor : public ControlVisitor {
   }
 
  private:
-  static std::string Name(ControlName control) {
-    std::string name = control.name;
+  std::string Name(ControlName control) const {
+    std::string name = prefix_ + control.name;
     if (control.index != ControlName::kSingle) name += " " + std::to_string(control.index);
     return name;
   }
@@ -71,6 +73,8 @@ class SnapshotVisitor : public ControlVisitor {
   }
 
   Snapshot& snapshot_;
+  /// The window's name before the control's, empty for the main window.
+  std::string prefix_;
 };
 
 void AddFight(const Fight& fight, Snapshot& snapshot) {
@@ -95,8 +99,10 @@ void AddFight(const Fight& fight, Snapshot& snapshot) {
 Snapshot TakeSnapshot(const Session& session) {
   Snapshot snapshot;
   AddFight(session.main.fight, snapshot);
-  SnapshotVisitor visitor(snapshot);
-  VisitControls(session.main, visitor);
+  SnapshotVisitor window(snapshot, "");
+  VisitControls(session.main, window);
+  SnapshotVisitor roller(snapshot, "ngdr.");
+  VisitRollerControls(session.main, roller);
   return snapshot;
 }
 

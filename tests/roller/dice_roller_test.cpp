@@ -22,21 +22,19 @@ struct Roller : testing::Test {
   ScriptedPrompts prompts;
   Fight fight;
   PlayerRecord& vex = fight.Players[1];
-  PlayerRecord& marrow = fight.Players[2];
   bool melee = false;
   DiceRoller roller{fight, uniform, prompts, [this](Integer pool) { vex.CP = pool; },
                     [this](Weapon) { return melee; }};
 };
 
 TEST_F(Roller, AnExchangeFromShotToShot) {
-  // Vex fires a burst at medium range; recoil leaves +2.
+  // Vex fires 8 rounds at medium range; recoil leaves +2.
   vex.RangeSelPrim = 1;
   vex.CP = 5;
   roller.URCprimary(2);
-  roller.BulletCount = 3;
+  roller.BulletCount = 8;
   roller.skill = "5";
   roller.tabTest_Click(TestPage::Ranged);
-  EXPECT_EQ(roller.txtTargetNum, "7");
   roller.cmbVisability_Click(1);
   roller.Caption_Click(*FindCaption("Label4"));
   EXPECT_EQ(roller.lblSum, "Base 5  +  modifiers 3  =  8");
@@ -49,30 +47,38 @@ TEST_F(Roller, AnExchangeFromShotToShot) {
   EXPECT_EQ(vex.CP.Value(), 4);
   EXPECT_EQ(prompts.TakeLog(), (std::vector<std::string>{"beep"}));
 
-  // Marrow resists with Body 4 against the burst; the attacker's count stays.
+  // Marrow resists with Body 4 against two bursts; the attacker's count stays.
   fight.CurrentPCpointer = 2;
   roller.Body = "4";
   roller.tabTest_Click(TestPage::BodyDodge);
-  EXPECT_EQ(roller.lblSum, "Base 4  +  modifiers 1  =  5");
-  uniform.PushFaces({5, 2, 4, 1});
+  EXPECT_EQ(roller.lblSum, "Base 4  +  modifiers 2  =  6");
+  uniform.PushFaces({5, 6, 1, 2, 4});
   roller.cmdRoll();
   EXPECT_EQ(roller.txtSuccess + "/" + roller.txtLastSuccesses, "1/2");
 
-  // Wounded, Marrow shoots back at short range with better eyes; the aim is still on the board.
-  marrow.TNDamMod = 3;
-  marrow.natLowLight = true;
-  marrow.SkillWeapType = 2;
+  // Wounded, Marrow shoots back at long range with better eyes; the aim is still on the board.
   roller.URCsecondary(3);
+  fight.Players[2].TNDamMod = 3;
+  fight.Players[2].natLowLight = true;
+  fight.Players[2].SkillWeapType = 2;
+  fight.Players[2].RangeSelSec = 2;
   roller.tabTest_Click(TestPage::Ranged);
-  EXPECT_EQ(roller.lblSum, "Base 4  +  modifiers 2  =  6");
-  // Wounds count for dodging only, once asked for.
-  roller.tabTest_Click(TestPage::BodyDodge);
-  EXPECT_EQ(roller.txtTargetNum, "5");
+  EXPECT_EQ(roller.lblSum, "Base 6  +  modifiers 2  =  8");
+  roller.tabTest_Click(TestPage::BodyDodge);  // wounds count for dodging only, once asked for
   roller.Caption_Click(*FindCaption("lblBodyWounds"));
-  EXPECT_EQ(roller.txtTargetNum, "8");
+  EXPECT_EQ(roller.txtTargetNum, "9");
+  roller.tabTest_Click(TestPage::BodyDodge);
+  EXPECT_EQ(roller.txtTargetNum, "6");
 }
 
-TEST_F(Roller, CountsSuccessesAndOnes) {
+TEST_F(Roller, CountsSuccessesAndOnesEvenWithoutTheVisibilityTable) {
+  roller.Form_Load(files, "E:");
+  EXPECT_EQ(prompts.TakeLog(), (std::vector<std::string>{"message \"File not found\""}));
+  uniform.RepeatFace(5);
+  roller.vNumDice(32767);
+  roller.cmdRoll();
+  EXPECT_EQ(roller.txtSuccess, "32767");
+  EXPECT_EQ(roller.DieTotals()[100].Value(), 5);
   // Dice, target, faces; then totals, successes and highest total; the rule of one.
   const std::tuple<const char*, const char*, std::vector<int>, const char*, bool> cases[] = {
       {"0", "4", {}, "/0/0", true},
@@ -89,13 +95,7 @@ TEST_F(Roller, CountsSuccessesAndOnes) {
     EXPECT_EQ(roller.txtResult + "/" + roller.txtSuccess + "/" + roller.txtHighNumber, result);
     EXPECT_EQ(roller.lblRuleOfOne, ruleOfOne) << result;
   }
-  uniform.RepeatFace(1);
-  for (const int dice : {32767, 99}) {
-    roller.vNumDice(dice);
-    roller.cmdRoll();
-    EXPECT_EQ(roller.txtSuccess, std::to_string(dice));
-    EXPECT_EQ(roller.DieTotals()[100].Value(), dice == 99 ? 0 : 1);
-  }
+  EXPECT_EQ(roller.DieTotals()[100].Value(), 0);
 }
 
 TEST_F(Roller, EachPageHasItsBoxesItsBaseAndItsSuccesses) {
@@ -130,8 +130,6 @@ TEST_F(Roller, TheTargetNumberFollowsTheRangeAndWhatChanges) {
   roller.cmbAttackerMove_Click(1);
   EXPECT_EQ(roller.txtTargetNum, "9.5");
   roller.ClearBox(kAttackerMoveBox);
-  EXPECT_EQ(roller.cmbAttackerMove, 0);
-  EXPECT_RUNTIME_ERROR(roller.txtRVar_Change(8, "1e999"), "Overflow");
   EXPECT_EQ(roller.lblSum, "Base 4.5  +  modifiers -1  =  3.5");
   melee = true;
   roller.txtMeleeNumber_Change("7");
@@ -145,21 +143,11 @@ TEST_F(Roller, DiceMoveBetweenTheBoxesAndNeverBelowNothing) {
     roller.cmdCPplusMinus(index);
     EXPECT_EQ(roller.txtNumDice + "/" + roller.txtCPx, expected);
   }
-  for (const auto& [typed, less] : {std::pair{"3x", "2"}, {"", "0"}, {"32767", "32766"}}) {
+  for (const auto& [typed, less] : {std::pair{"3x", "2"}, {"", "0"}, {"2.5", "1"}}) {
     roller.txtNumDice_Change(typed);
     roller.cmdDicePlusMinus(1);
     EXPECT_EQ(roller.txtNumDice, less);
   }
-  roller.cmdDicePlusMinus(0);
-  EXPECT_RUNTIME_ERROR(roller.cmdCPplusMinus(0), "Overflow");
-  EXPECT_EQ(roller.txtNumDice + "/" + roller.txtCPx, "32767/1");
-}
-
-TEST_F(Roller, WorksWithoutTheVisibilityTable) {
-  roller.Form_Load(files, "E:");
-  EXPECT_EQ(prompts.TakeLog(), (std::vector<std::string>{"message \"File not found\""}));
-  roller.cmbVisability2_Click(0);
-  EXPECT_EQ(roller.board.txtRVar[kVisibility2Box], "0");
 }
 
 TEST(SkillLevel, IsReadOrLeftToTheButtons) {
@@ -178,9 +166,8 @@ TEST(SkillLevel, IsReadOrLeftToTheButtons) {
     form.cmdSkillSelect_Click(index);
     EXPECT_EQ(form.SelValue.Value(), level);
   }
-  for (const char* line : {"Pistols ]4[", "Pistols [4"}) {
-    EXPECT_RUNTIME_ERROR(form.SkillString(line), "Overflow");
-  }
+  EXPECT_RUNTIME_ERROR(form.SkillString("Pistols ]4["), "Overflow");
+  EXPECT_RUNTIME_ERROR(form.SkillString("Pistols [4"), "Overflow");
 }
 
 }  // namespace

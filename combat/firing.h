@@ -1,0 +1,89 @@
+#pragma once
+
+#include <string_view>
+
+#include "app/settings.h"
+#include "base/ports.h"
+#include "combat/weapons.h"
+#include "import/character_sheet.h"
+#include "import/reference_tables.h"
+#include "notes/gm_log.h"
+#include "roller/dice_roller.h"
+#include "tracker/fight.h"
+
+namespace ng {
+
+/// Whether a weapon kicks twice as hard: shotguns, machine guns, autocannon and minigun by the
+/// class code in the caption.
+bool IsHeavyWeapon(std::string_view caption);
+
+/// The class code in the caption's last parentheses, empty when there is none.
+std::string_view ClassCode(std::string_view caption);
+
+/// The ambidexterity level 0 to 4 of a sheet, from its first edge of that name; 0 without a sheet.
+Integer CheckPCAmbidexterity(const CharacterEntry* entry);
+
+/// The two weapons of the displayed combatant: firing, reloading, and what each adds to the target
+/// number.
+class Firing {
+ public:
+  static constexpr int kMostFullAuto = 18;
+
+  Firing(Fight& fight, const CharacterTable& characters, WeaponPanel& panel, DiceRoller& roller,
+         GmLog& log, Prompts& prompts, const Settings& settings)
+      : fight_(fight),
+        characters_(characters),
+        panel_(panel),
+        roller_(roller),
+        log_(log),
+        prompts_(prompts),
+        settings_(settings) {}
+
+  /// Whether the displayed combatant may attack: its turn, and a step of the combat turn taken.
+  bool HasTurn() const;
+  /// The last firing action was for two rounds or more.
+  Boolean BurstFire() const { return burstFire_; }
+
+  /// Fires so many rounds, as far as the magazine goes, and starts the test. Refused out of turn
+  /// and with an empty weapon.
+  void Fire(Weapon weapon, Integer shots);
+  /// The same for a number of rounds that is asked for, 1 to 18.
+  void FullAuto(Weapon weapon);
+  void Reload(Weapon weapon);
+  /// Empties the hand.
+  void Disarm(Weapon weapon);
+  /// Takes a line of the weapon list into the hand, with the ranges of its class.
+  void Ready(Weapon weapon, std::string_view line, const RangeTable& ranges);
+
+  /// Rounds left in the magazine; 0 when it has no text.
+  Integer AmmoLeft(Weapon weapon) const;
+  /// Works out recoil and the total modifier of both weapons and shows them.
+  void UpdateWeaponModifiers();
+
+  /// The rounds fired this turn follow the boxes: another combatant is displayed, or the game
+  /// master typed a number.
+  void TakeRoundCounters();
+  void ZeroRoundCounters() { roundsFired_ = {}; }
+
+ private:
+  PlayerRecord& Displayed() { return fight_.Players[fight_.CurrentPCpointer]; }
+  bool MayFire(Weapon weapon);
+  Integer RecoilRounds(Integer rounds) const;
+  Integer UncompensatedRecoil(std::size_t w) const;
+  Integer SightModifier(std::size_t w) const;
+  void ApplyTwoGuns(PerWeapon<Integer>& modifiers) const;
+  void HandOverToRoller(Weapon weapon, Integer rounds);
+
+  Fight& fight_;
+  const CharacterTable& characters_;
+  WeaponPanel& panel_;
+  DiceRoller& roller_;
+  GmLog& log_;
+  Prompts& prompts_;
+  const Settings& settings_;
+  /// Rounds fired this turn by each weapon.
+  PerWeapon<Integer> roundsFired_;
+  Boolean burstFire_;
+};
+
+}  // namespace ng

@@ -1,0 +1,263 @@
+#include "roller/dice_roller.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "base/number_text.h"
+#include "base/runtime_error.h"
+#include "roller/dice.h"
+#include "roller/odds.h"
+
+namespace ng {
+namespace {
+
+constexpr const char* kPlainBase = "4";
+constexpr int kBurstRounds = 3;
+
+/// Short, medium, long, extreme.
+const char* RangeBase(Integer range) {
+  switch (range.Value()) {
+    case 1:
+      return "5";
+    case 2:
+      return "6";
+    case 3:
+      return "9";
+    default:
+      return kPlainBase;
+  }
+}
+
+void AppendTotal(std::string& result, Integer total) {
+  if (total < 10) result += '0';
+  result.append(PlainText(total)) += ' ';
+}
+
+}  // namespace
+
+DiceRoller::DiceRoller(const Fight& fight, Uniform& uniform, Prompts& prompts, PoolFunction CP,
+                       MeleeFunction wieldsInMelee)
+    : fight_(fight),
+      uniform_(uniform),
+      prompts_(prompts),
+      CP_(std::move(CP)),
+      wieldsInMelee_(std::move(wieldsInMelee)) {
+  UpdateTargetNumber();
+}
+
+void DiceRoller::URCprimary(Integer modifier) {
+  primaryModifier_ = modifier;
+  FollowCombatant();
+}
+
+void DiceRoller::URCsecondary(Integer modifier) {
+  secondaryModifier_ = modifier;
+  FollowCombatant();
+}
+
+void DiceRoller::vNumDice(Integer dice) { txtNumDice = PlainText(dice); }
+
+void DiceRoller::Form_Load(Files& files, const std::string& datDir) {
+  LoadedVisability loaded = LoadVisability(files, datDir);
+  visability_ = std::move(loaded.table);
+  visibilityNames = visability_.Names();
+  if (!loaded.message.empty()) prompts_.Message(loaded.message);
+}
+
+void DiceRoller::tabTest_Click(TestPage page) {
+  tabTest = page;
+  SelectRange();
+  brought_ = Brought();
+  board.Fill(brought_);
+  LookAgain(cmbVisability);
+  LookAgain(cmbVisability2);
+  if (page == TestPage::BodyDodge) {
+    board.Clear(kBodyWoundsBox);
+    board.txtRVar[kBurstBox] = ModifierText(BulletCount.Value() / kBurstRounds);
+  }
+  vNumDice(LenientInteger(page == TestPage::BodyDodge ? Body : skill));
+  TakePool();
+  UpdateTargetNumber();
+}
+
+void DiceRoller::TakePool() {
+  poolOwner_ = fight_.CurrentPCpointer;
+  poolTaken_ = Displayed().CP;
+  txtCPx = PlainText(poolTaken_);
+}
+
+void DiceRoller::FollowPool() {
+  if (poolOwner_ != fight_.CurrentPCpointer || poolTaken_ != Displayed().CP) TakePool();
+}
+
+void DiceRoller::cmdRoll() {
+  dieTotals_ = {};
+  const int dice = LenientInteger(txtNumDice).Value();
+  // Without dice the flag is never cleared, and the rule of one is shown; kept so.
+  bool allOnes = true;
+  Integer successes;
+  Integer highest;
+  std::string result;
+  for (int number = 1; number <= dice; ++number) {
+    const DieRoll die = RollOpenEnded(uniform_);
+    allOnes = allOnes && die.allOnes;
+    if (die.total.Value() >= LeadingNumber(txtTargetNum)) successes += 1;
+    highest = std::max(highest, die.total);
+    if (number <= dieTotals_.kLast) dieTotals_[number] = die.total;
+    AppendTotal(result, die.total);
+  }
+  txtResult = std::move(result);
+  txtSuccess = PlainText(successes);
+  txtHighNumber = PlainText(highest);
+  lblRuleOfOne = allOnes;
+  CP_(LenientInteger(txtCPx));
+  // A defender rolls against the attacker's count, so only attacks leave one.
+  if (tabTest == TestPage::Ranged || tabTest == TestPage::Melee) txtLastSuccesses = txtSuccess;
+  prompts_.Beep();
+}
+
+void DiceRoller::txtNumDice_Change(const std::string& text) {
+  // A number that is too large stays as it was typed, for the game master to mend.
+  txtNumDice = text;
+  vNumDice(LenientInteger(text));
+}
+
+void DiceRoller::txtCPx_Change(const std::string& text) {
+  txtCPx = text;
+  txtCPx = PlainText(std::max<Integer>(LenientInteger(text), 0));
+}
+
+void DiceRoller::txtRangeTargetNumber_Change(const std::string& text) {
+  txtRangeTargetNumber = text;
+  UpdateTargetNumber();
+}
+
+void DiceRoller::txtMeleeNumber_Change(const std::string& text) {
+  txtMeleeNumber = text;
+  UpdateTargetNumber();
+}
+
+void DiceRoller::txtRVar_Change(int box, const std::string& text) {
+  board.txtRVar[box] = text;
+  UpdateTargetNumber();
+}
+
+void DiceRoller::cmdDicePlusMinus(int index) {
+  const Integer dice = LenientInteger(txtNumDice) + (index == 0 ? 1 : -1);
+  vNumDice(std::max<Integer>(dice, 0));
+}
+
+void DiceRoller::cmdCPplusMinus(int index) {
+  const Integer pool = LenientInteger(txtCPx);
+  const Integer dice = LenientInteger(txtNumDice);
+  const Integer toDice = index == 0 ? 1 : -1;
+  if ((toDice == 1 ? pool : dice) < 1) return;
+  const Integer newPool = std::max<Integer>(pool, 0) - toDice;
+  vNumDice(std::max<Integer>(dice, 0) + toDice);
+  txtCPx = PlainText(newPool);
+}
+
+void DiceRoller::cmbVisability_Click(int index) { Choose(cmbVisability, index); }
+
+void DiceRoller::cmbVisability2_Click(int index) { Choose(cmbVisability2, index); }
+
+void DiceRoller::cmbAttackerMove_Click(int index) {
+  const std::span<const AttackerMove> moves = AttackerMoves();
+  if (index < 0 || static_cast<std::size_t>(index) >= moves.size()) return;
+  cmbAttackerMove = index;
+  txtRVar_Change(kAttackerMoveBox, moves[static_cast<std::size_t>(index)].modifier);
+}
+
+void DiceRoller::Caption_Click(const Caption& caption) {
+  board.Step(caption, Brought());
+  UpdateTargetNumber();
+}
+
+void DiceRoller::ClearBox(int box) {
+  for (VisibilityChoice* list : {&cmbVisability, &cmbVisability2}) {
+    if (list->box == box) *list = {box, 0, {}};
+  }
+  if (box == kAttackerMoveBox) cmbAttackerMove = 0;
+  board.Clear(box);
+  UpdateTargetNumber();
+}
+
+void DiceRoller::cmdZeroAll() {
+  for (const int box : BoxesOf(tabTest)) ClearBox(box);
+}
+
+void DiceRoller::optRangeSel_Click() {
+  const std::string before = BaseNumber();
+  SelectRange();
+  if (BaseNumber() != before) UpdateTargetNumber();
+}
+
+std::string DiceRoller::BaseNumber() const {
+  if (tabTest == TestPage::Ranged) return txtRangeTargetNumber;
+  return tabTest == TestPage::Melee ? txtMeleeNumber : kPlainBase;
+}
+
+std::string DiceRoller::OddsLine() const {
+  try {
+    return OddsSentence(LenientInteger(txtNumDice), LeadingNumber(txtTargetNum));
+  } catch (const RuntimeError&) {
+    return {};
+  }
+}
+
+CombatantModifiers DiceRoller::Brought() const {
+  const PlayerRecord& combatant = Displayed();
+  CombatantModifiers brought;
+  if (combatant.SkillWeapType == 1) brought.weapon = primaryModifier_;
+  if (combatant.SkillWeapType == 2) brought.weapon = secondaryModifier_;
+  brought.wounds = combatant.TNDamMod;
+  return brought;
+}
+
+void DiceRoller::SelectRange() {
+  const PlayerRecord& combatant = Displayed();
+  // The bracket of somebody else's shot must not linger.
+  txtRangeTargetNumber = kPlainBase;
+  if (combatant.SkillWeapType == 1 && !wieldsInMelee_(Weapon::Primary)) {
+    txtRangeTargetNumber = RangeBase(combatant.RangeSelPrim);
+  } else if (combatant.SkillWeapType == 2 && !wieldsInMelee_(Weapon::Secondary)) {
+    txtRangeTargetNumber = RangeBase(combatant.RangeSelSec);
+  } else {
+    txtMeleeNumber = kPlainBase;
+  }
+}
+
+void DiceRoller::UpdateTargetNumber() {
+  const double base = LeadingNumber(BaseNumber());
+  const double modifiers = board.Sum(tabTest);
+  const double target = base + modifiers;
+  if (!std::isfinite(target)) ThrowOverflow();
+  txtTargetNum = PlainText(target);
+  lblSum =
+      "Base " + PlainText(base) + "  +  modifiers " + PlainText(modifiers) + "  =  " + txtTargetNum;
+}
+
+void DiceRoller::FollowCombatant() {
+  const CombatantModifiers now = Brought();
+  // What the game master typed stands while nothing changes.
+  if (now == brought_) return;
+  brought_ = now;
+  board.Fill(now);
+  UpdateTargetNumber();
+}
+
+void DiceRoller::Choose(VisibilityChoice& list, int index) {
+  if (index < 0 || index >= visability_.count) return;
+  list.index = index;
+  list.written = VisibilityModifier(visability_.rows[index], Displayed());
+  txtRVar_Change(list.box, list.written);
+}
+
+/// The eyes may be another combatant's by now.
+void DiceRoller::LookAgain(VisibilityChoice& list) {
+  if (list.written.empty()) return;
+  if (board.txtRVar[list.box] == list.written) Choose(list, list.index);
+}
+
+}  // namespace ng

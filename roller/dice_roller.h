@@ -1,0 +1,161 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "base/fixed_table.h"
+#include "base/integer.h"
+#include "base/ports.h"
+#include "roller/modifier_board.h"
+#include "roller/visability_table.h"
+#include "tracker/fight.h"
+
+namespace ng {
+
+/// The window in which success tests are rolled: the form behind ngdr. Number boxes are read
+/// leniently, so that a text without a number counts as 0.
+class DiceRoller {
+ public:
+  static constexpr const char* kRuleOfOne = "Rule of One!";
+
+  /// A list of kinds of visibility.
+  struct VisibilityChoice {
+    /// The modifier box that it fills.
+    int box;
+    /// The entry chosen.
+    int index = 0;
+    /// What the choice wrote, to tell it from what was cleared or typed since.
+    std::string written;
+  };
+
+  /// Hands the combat pool that a test leaves to the displayed combatant.
+  using PoolFunction = std::function<void(Integer)>;
+  /// Whether the displayed combatant wields this weapon with a melee skill.
+  using MeleeFunction = std::function<bool(Weapon)>;
+
+  DiceRoller(const Fight& fight, Uniform& uniform, Prompts& prompts, PoolFunction CP,
+             MeleeFunction wieldsInMelee);
+
+  // What the main window hands over before it starts a test.
+  std::string DamageCode;
+  /// Rounds fired last.
+  Integer BulletCount;
+  /// The skill's level, and its name.
+  std::string skill;
+  std::string lblSkill;
+  /// The augmented Body of the displayed combatant, as plain text.
+  std::string Body;
+  /// The total modifiers of the two weapons.
+  void URCprimary(Integer modifier);
+  void URCsecondary(Integer modifier);
+  /// The number of dice.
+  void vNumDice(Integer dice);
+
+  // What the controls show.
+  bool visible = false;
+  TestPage tabTest = TestPage::Ranged;
+  std::string txtNumDice = "0";
+  /// A fraction is compared as it is.
+  std::string txtTargetNum = "4";
+  /// Combat-pool dice not committed to the test.
+  std::string txtCPx = "0";
+  std::string txtRangeTargetNumber = "4";
+  std::string txtMeleeNumber = "4";
+  /// The totals of the last roll in rolling order, of two digits at least, a blank behind each.
+  std::string txtResult;
+  std::string txtSuccess;
+  std::string txtHighNumber;
+  /// The attacker's successes, which the defender rolls against.
+  std::string txtLastSuccesses = "0";
+  /// Shown; its caption is kRuleOfOne.
+  bool lblRuleOfOne = false;
+  ModifierBoard board;
+  /// Entries of both visibility lists.
+  std::vector<std::string> visibilityNames;
+  /// The entries chosen in the three lists.
+  VisibilityChoice cmbVisability{kVisibilityBox, 0, {}};
+  VisibilityChoice cmbVisability2{kVisibility2Box, 0, {}};
+  int cmbAttackerMove = 0;
+  /// "Base 5  +  modifiers 4  =  9": what the target number is made of, whatever is typed over it.
+  std::string lblSum;
+
+  /// Fills the lists. A visibility table that cannot be read is reported and kept as far as it was
+  /// read; the roller works without it.
+  void Form_Load(Files& files, const std::string& datDir);
+
+  /// Opens a page and starts its test for the displayed combatant: dice, combat pool, base number
+  /// and whatever the combatant brings along are filled in anew. What the game master set about the
+  /// situation stays.
+  void tabTest_Click(TestPage page);
+
+  /// Rolls the test, shows what came of it, hands back the combat pool left over, and beeps.
+  void cmdRoll();
+
+  void txtNumDice_Change(const std::string& text);
+  /// What the game master types here stands until something that the target number is made of
+  /// changes.
+  void txtTargetNum_Change(const std::string& text) { txtTargetNum = text; }
+  void txtCPx_Change(const std::string& text);
+  void txtRangeTargetNumber_Change(const std::string& text);
+  void txtMeleeNumber_Change(const std::string& text);
+  void txtRVar_Change(int box, const std::string& text);
+  /// Index 0 adds a die, index 1 takes one away.
+  void cmdDicePlusMinus(int index);
+  /// Index 0 moves a die from the pool to the dice, index 1 moves one back. Neither moves a die
+  /// that its box does not have.
+  void cmdCPplusMinus(int index);
+
+  void cmbVisability_Click(int index);
+  void cmbVisability2_Click(int index);
+  void cmbAttackerMove_Click(int index);
+  void Caption_Click(const Caption& caption);
+  /// The right click or Shift+click on a box's caption. A list that fills the box goes back to its
+  /// first entry.
+  void ClearBox(int box);
+  /// Sets all boxes of the page to 0.
+  void cmdZeroAll();
+
+  /// Takes up the combat pool of the displayed combatant when somebody else is displayed, or the
+  /// pool changed elsewhere, so that a roll never hands one combatant's dice to another.
+  void FollowPool();
+
+  /// The main window's choice of a range bracket; the base number of the weapon that attacked last
+  /// follows it.
+  void optRangeSel_Click();
+
+  // What the window shows beside the boxes.
+  /// The base number of the open page.
+  std::string BaseNumber() const;
+  /// The odds of this roll in plain words; empty while a box holds a number that cannot be rolled.
+  std::string OddsLine() const;
+  /// The totals of the last roll's first 100 dice at the indices 1 to 100, 0 where none was rolled.
+  const FixedTable<Integer, 100>& DieTotals() const { return dieTotals_; }
+
+ private:
+  const PlayerRecord& Displayed() const { return fight_.Players[fight_.CurrentPCpointer]; }
+  CombatantModifiers Brought() const;
+  void SelectRange();
+  void UpdateTargetNumber();
+  void FollowCombatant();
+  void Choose(VisibilityChoice& list, int index);
+  void LookAgain(VisibilityChoice& list);
+  void TakePool();
+
+  const Fight& fight_;
+  Uniform& uniform_;
+  Prompts& prompts_;
+  PoolFunction CP_;
+  MeleeFunction wieldsInMelee_;
+  VisabilityTable visability_;
+  Integer primaryModifier_;
+  Integer secondaryModifier_;
+  /// What the boxes were last filled with.
+  CombatantModifiers brought_;
+  FixedTable<Integer, 100> dieTotals_;
+  /// Whose combat pool `txtCPx` was filled from, and how large it was.
+  Slot poolOwner_;
+  Integer poolTaken_;
+};
+
+}  // namespace ng

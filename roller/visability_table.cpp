@@ -1,0 +1,69 @@
+#include "roller/visability_table.h"
+
+#include <string_view>
+
+#include "base/number_text.h"
+#include "base/runtime_error.h"
+#include "base/text.h"
+
+namespace ng {
+namespace {
+
+VisabilityRow ReadRow(std::string_view line) {
+  const std::vector<std::string_view> fields = Split(line, '|');
+  VisabilityRow row;
+  if (fields.size() <= row.modifiers.size()) ThrowSubscript();
+  row.name = fields[0];
+  for (std::size_t column = 0; column < row.modifiers.size(); ++column) {
+    row.modifiers[column] = StrictInteger(fields[column + 1]);
+  }
+  return row;
+}
+
+std::string ReadRows(VisabilityTable& table, std::string_view text) {
+  LineReader lines(text);
+  std::string_view line;
+  while (lines.Next(line)) {
+    if (line.empty() || line.starts_with('!')) continue;
+    table.rows[table.count] = ReadRow(line);
+    ++table.count;
+    // The full table is reported at once, whether or not another row follows; kept so.
+    if (table.count > table.rows.kLast) return "Error loading : visability.dat";
+  }
+  return {};
+}
+
+std::size_t ColumnFor(const PlayerRecord& combatant) {
+  if (combatant.natThermographic) return 4;
+  if (combatant.augThermographic) return 3;
+  if (combatant.natLowLight) return 2;
+  return combatant.augLowLight ? 1 : 0;
+}
+
+}  // namespace
+
+std::vector<std::string> VisabilityTable::Names() const {
+  std::vector<std::string> names;
+  for (int index = 0; index < count; ++index) names.push_back(rows[index].name);
+  return names;
+}
+
+LoadedVisability LoadVisability(Files& files, const std::string& datDir) {
+  LoadedVisability loaded;
+  try {
+    loaded.message = ReadRows(loaded.table, files.ReadWhole(datDir + "\\visability.dat"));
+  } catch (const RuntimeError& error) {
+    loaded.message = error.what();
+  }
+  return loaded;
+}
+
+std::string VisibilityModifier(const VisabilityRow& row, const PlayerRecord& combatant) {
+  if (row.name == "Thermal Smoke") {
+    // Both lenses together are blinded by the hot smoke; natural eyes have no say, on purpose.
+    return combatant.augLowLight && combatant.augThermographic ? "+8" : "+4";
+  }
+  return PlainText(row.modifiers[ColumnFor(combatant)]);
+}
+
+}  // namespace ng
