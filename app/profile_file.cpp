@@ -37,7 +37,7 @@ ProfileFile::ProfileFile(std::string text) : text_(std::move(text)) {
     if (line.empty() || line.front() == ';') continue;
     if (line.front() == '[') {
       const std::string_view name = Trimmed(line.substr(1, line.find(']') - 1));
-      sections_.push_back({name, entries_.size(), entries_.size()});
+      sections_.push_back({HashIgnoringCase(name), name, entries_.size(), entries_.size()});
       continue;
     }
     const std::size_t equals = line.find('=');
@@ -50,8 +50,9 @@ ProfileFile::ProfileFile(std::string text) : text_(std::move(text)) {
 }
 
 const ProfileFile::Section* ProfileFile::FindSection(std::string_view name) const {
+  const std::uint32_t hash = HashIgnoringCase(name);
   for (const Section& section : sections_) {
-    if (EqualIgnoringCase(section.name, name)) return &section;
+    if (section.nameHash == hash && EqualIgnoringCase(section.name, name)) return &section;
   }
   return nullptr;
 }

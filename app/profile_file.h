@@ -34,6 +34,7 @@ class ProfileFile {
 
  private:
   struct Section {
+    std::uint32_t nameHash = 0;
     std::string_view name;
     std::size_t firstEntry = 0;
     std::size_t endEntry = 0;

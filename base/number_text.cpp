@@ -78,7 +78,8 @@ std::string PlainText(double value) {
 std::string PlainText(Integer value) { return std::to_string(value.Value()); }
 
 std::string PrintForm(std::int32_t value) {
-  return (value < 0 ? "" : " ") + std::to_string(value) + " ";
+  std::string text(value < 0 ? "" : " ");
+  return text.append(std::to_string(value)).append(" ");
 }
 
 std::string PrintForm(Integer value) { return PrintForm(std::int32_t{value.Value()}); }

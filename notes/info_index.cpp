@@ -4,6 +4,22 @@
 #include "base/text.h"
 
 namespace ng {
+namespace {
+
+bool IsEntry(std::string_view line) { return !line.empty() && !line.starts_with('!'); }
+
+std::string Lower(std::string_view text) {
+  std::string lower;
+  for (const char c : text) lower += AsciiLower(c);
+  return lower;
+}
+
+std::string_view AfterFirstBar(std::string_view line) {
+  const std::size_t bar = line.find('|');
+  return bar == std::string_view::npos ? std::string_view{} : line.substr(bar + 1);
+}
+
+}  // namespace
 
 std::string InfoIndex::Load(Files& files, const std::vector<std::string>& paths) {
   count_ = 0;
@@ -25,12 +41,47 @@ std::string InfoIndex::Index(std::string_view text) {
   Integer lineNumber;
   while (lines.Next(line)) {
     lineNumber += 1;
-    if (line.empty() || line.starts_with('!')) continue;
+    if (!IsEntry(line)) continue;
     entries_[count_] = {std::string(Piece(line, '|', 0)), lineNumber};
     ++count_;
     if (count_ > kLastEntry) return "Error opening: Info.dat";
   }
   return {};
+}
+
+std::vector<int> InfoIndex::Matching(std::string_view text) const {
+  const std::string wanted = Lower(text);
+  std::vector<int> indices;
+  for (int i = 0; i < count_; ++i) {
+    if (Contains(Lower(entries_[i].name), wanted)) indices.push_back(i);
+  }
+  return indices;
+}
+
+int InfoIndex::Find(std::string_view name) const {
+  for (int i = 0; i < count_; ++i) {
+    if (EqualIgnoringCase(entries_[i].name, name)) return i;
+  }
+  return -1;
+}
+
+std::vector<std::string> InfoIndex::EntryLines(Files& files, int index) const {
+  const Integer wanted = At(index).line;
+  const std::string text = files.ReadWhole(fileName_);
+  LineReader lines(text);
+  std::string_view line;
+  std::vector<std::string> result;
+  if (wanted == 0) return result;
+  for (int number = 1; lines.Next(line); ++number) {
+    if (number < wanted.Value()) continue;
+    if (number == wanted.Value()) {
+      result.emplace_back(AfterFirstBar(line));
+      continue;
+    }
+    if (IsEntry(line)) break;
+    result.emplace_back(line);
+  }
+  return result;
 }
 
 }  // namespace ng

@@ -29,6 +29,18 @@ class InfoIndex {
   const Entry& At(int index) const { return entries_[index]; }
   const std::string& FileName() const { return fileName_; }
 
+  /// The indices of the entries whose name contains `text`, ASCII case ignored; all for an empty
+  /// text.
+  std::vector<int> Matching(std::string_view text) const;
+  /// The first entry of this name, ASCII case ignored, or -1.
+  int Find(std::string_view name) const;
+
+  /// What the file says about an entry: the text behind the first "|" of its line and the lines
+  /// that follow, comments included, up to the next entry. The file is read again; none when it has
+  /// become too short or the entry is not there. Throws the platform's file errors, Subscript out
+  /// of range for an index outside 0 to 200.
+  std::vector<std::string> EntryLines(Files& files, int index) const;
+
  private:
   std::string Index(std::string_view text);
 

@@ -5,7 +5,7 @@
 namespace ng {
 
 /// A label of a width that does not hang on its text: a longer text is cut with an ellipsis and
-/// stands in full in the tooltip.
+/// stands in full in the tooltip. A text equal to the dynamic property "alarmText" is shown red.
 class ElidedLabel : public QLabel {
   Q_OBJECT
 

@@ -1,5 +1,7 @@
 #include "ui/text.h"
 
+#include <QList>
+
 #include "base/code_page.h"
 
 namespace ng {

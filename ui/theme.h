@@ -14,7 +14,11 @@ struct Theme {
   bool dark;
   QColor window;
   QColor group;
+  QColor groupEdge;
   QColor base;
+  /// Every second row of the long lists.
+  QColor alternateBase;
+  QColor button;
   QColor text;
   QColor muted;
   QColor fieldEdge;
@@ -30,14 +34,19 @@ struct Theme {
   static const Theme& Current();
 
   QPalette Palette() const;
+  /// Colours a label by its dynamic property "tone" ("muted", "accent") and the turn badge by what
+  /// it says; a badge must be polished again after its text.
   QString StyleSheet() const;
 };
 
 /// Puts the colours on every window.
 void ApplyTheme(QApplication& application, const Theme& theme);
 
-/// Whether the desktop asks for dark colours.
+/// Whether the desktop asks for dark colours. To be asked before a theme is applied.
 bool DesktopIsDark(const QApplication& application);
+
+/// Size of the text, in points.
+constexpr double kTextPoints = 10;
 
 /// The interface font (Noto Sans where there is one) in points: 10 for text, 17 for names and
 /// totals, 14 for the rounds left, 11 for the grid.

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "base/ports.h"
+
+namespace ng {
+
+/// The viewer of the game master's log: what all evenings so far have written.
+class LogViewer {
+ public:
+  bool open = false;
+  std::vector<std::string> lstDisplay;
+
+  /// Fills the list with the lines of the log at `path` and opens the viewer. A log that is not
+  /// there yet is the platform's error; the list is empty then.
+  void Form_Load(Files& files, const std::string& path);
+  void cmdClose() { open = false; }
+};
+
+}  // namespace ng

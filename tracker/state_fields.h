@@ -1,0 +1,53 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tracker/player_record.h"
+
+namespace ng {
+
+/// How a combatant's value is written to the state file and how it is read back. The two differ in
+/// places, and a restored fight shows it; that is meant so.
+enum class SlotForm {
+  /// Text as it stands, both ways.
+  Plain,
+  /// Text written as it stands but decoded when read: a "_" in it comes back as a blank.
+  Name,
+  /// Text encoded when written, decoded when read.
+  Encoded,
+  /// Text as it stands; read as a number and kept as the plain text of that number.
+  Weight,
+  /// A whole number, read leniently: a missing one is 0.
+  Number,
+  /// A whole number without which the file does not load.
+  Strict,
+  /// "1" for everything but false; true when the number read is 1.
+  Flag,
+  /// A line with nothing behind the "="; read as a number, and so 0.
+  Emptied,
+  /// No line of its own: the line that an earlier key wrote is read once more.
+  ReadAgain,
+};
+
+/// One key of a "[Slot...]" section.
+struct SlotKey {
+  const char* key;
+  SlotForm form;
+  PlayerField::Member from;
+  /// Where the reader puts the value; not always where the writer took it from.
+  PlayerField::Member into;
+};
+
+/// Every key of a slot's section, in the order of writing and of reading.
+const std::vector<SlotKey>& SlotKeys();
+
+/// What stands behind the "=".
+std::string WrittenValue(const PlayerRecord& record, const SlotKey& key);
+
+/// Stores what stood behind the "=". Type mismatch for a strict value that is no whole number;
+/// Overflow for a number that its field cannot hold.
+void TakeValue(PlayerRecord& record, const SlotKey& key, std::string_view text);
+
+}  // namespace ng

@@ -1,0 +1,150 @@
+#include "ui/gear_page.h"
+
+#include <QBoxLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTreeWidget>
+
+#include "ui/elided_label.h"
+
+namespace ng {
+namespace {
+
+struct ButtonWidths {
+  int least;
+  int full;
+};
+
+constexpr ButtonWidths kHandButton{72, 86};
+constexpr ButtonWidths kInfoButton{52, 64};
+constexpr int kWeightColumn = 58;
+constexpr int kNameWidth = 80;
+constexpr int kLeastNameWidth = 40;
+
+QPushButton* MakeWideButton(const Naming& naming, const QString& text, ButtonWidths widths,
+                            QWidget* parent) {
+  QPushButton* button = MakeButton(naming, text, parent);
+  button->setFixedHeight(kButtonHeight);
+  button->setMinimumWidth(widths.least);
+  button->setMaximumWidth(widths.full);
+  return button;
+}
+
+QHBoxLayout* MakeHandRow(QWidget* parent) {
+  ElidedLabel* name = MakeElided("lblNameX", parent);
+  Embolden(name);
+  name->setMinimumWidth(kLeastNameWidth);
+  name->setMaximumWidth(kNameWidth);
+  QHBoxLayout* row = MakeRow(6);
+  row->addWidget(name, 8);
+  row->addWidget(MakeCaption("takes the marked weapon as", parent));
+  row->addSpacing(4);
+  row->addWidget(MakeWideButton({"cmdSetPrim", "Take the marked weapon as primary weapon",
+                                 "Put the marked weapon into the primary slot"},
+                                "&Primary", kHandButton, parent),
+                 8);
+  row->addWidget(MakeWideButton({"cmdSetSecond", "Take the marked weapon as secondary weapon",
+                                 "Put the marked weapon into the secondary slot"},
+                                "&Secondary", kHandButton, parent),
+                 8);
+  row->addStretch(1);
+  row->addWidget(MakeWideButton({"cmdInfoWeapon", "Info on the marked weapon",
+                                 "Show what the reference says of the marked weapon"},
+                                "&Info", kInfoButton, parent));
+  return row;
+}
+
+QGroupBox* MakeWeapons(QWidget* parent) {
+  QGroupBox* group = MakeGroup("Weapons", parent);
+  QVBoxLayout* rows = MakeGroupRows(group);
+  rows->setSpacing(6);
+  rows->addWidget(
+      MakeList({"lstWeapon", "Weapons", "Check mark: carried. The marked line goes into a hand"},
+               {ListColumn{"Carried weapon"}, ListColumn{"Damage", 96}, ListColumn{"Conceal", 62},
+                ListColumn{"Figures", 104}, ListColumn{"Ammo", 54},
+                ListColumn{"Weight", kWeightColumn, Qt::AlignRight}},
+               group),
+      1);
+  rows->addLayout(MakeHandRow(group));
+  return group;
+}
+
+QHBoxLayout* MakeArmourFigures(QWidget* parent) {
+  struct Figure {
+    const char* name;
+    int width;
+    const char* tip;
+  };
+  static constexpr Figure kFigures[] = {
+      {"lblBAL2", 50, "BAL: ballistic armour"},
+      {"lblIMP2", 50, "IMP: impact armour"},
+      {"lblQCKmod2", 58, "QCK: what the armour takes from quickness"},
+      {"lblCPmod2", 100, "CPmod: what the armour takes from the combat pool"}};
+  QHBoxLayout* row = MakeRow(6);
+  for (const auto& [name, width, tip] : kFigures) {
+    ElidedLabel* figure = MakeElided(name, parent);
+    Embolden(figure);
+    figure->setFixedWidth(width);
+    figure->setToolTip(tip);
+    row->addWidget(figure);
+  }
+  row->addStretch();
+  QLabel* weight = MakeValue("lblWeight2", parent);
+  weight->setToolTip("Weight of everything worn and carried");
+  row->addWidget(weight);
+  return row;
+}
+
+QGroupBox* MakeArmour(QWidget* parent) {
+  QGroupBox* group = MakeGroup("Armour", parent);
+  QVBoxLayout* rows = MakeGroupRows(group);
+  rows->setSpacing(6);
+  rows->addWidget(MakeList({"lstArmor", "Armour", "Check mark: worn"},
+                           {ListColumn{"Worn armour"}, ListColumn{"Conceal", 62, Qt::AlignRight},
+                            ListColumn{"Ballistic", 66, Qt::AlignRight},
+                            ListColumn{"Impact", 62, Qt::AlignRight},
+                            ListColumn{"Weight", kWeightColumn + 4, Qt::AlignRight}},
+                           group),
+                  1);
+  rows->addLayout(MakeArmourFigures(group));
+  return group;
+}
+
+QGroupBox* MakeGear(QWidget* parent) {
+  QGroupBox* group = MakeGroup("Gear", parent);
+  QVBoxLayout* rows = MakeGroupRows(group);
+  rows->setSpacing(6);
+  rows->addWidget(MakeList({"lstGear", "Gear", "Check mark: carried"},
+                           {ListColumn{"Carried gear"},
+                            ListColumn{"Weight", kWeightColumn + 6, Qt::AlignRight}},
+                           group),
+                  1);
+  QLabel* weight = MakeValue("lblWeight", group);
+  weight->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  weight->setToolTip("Weight of everything worn and carried");
+  QHBoxLayout* row = MakeRow(6);
+  row->addWidget(MakeWideButton(
+      {"cmdInfoGear", "Info on the marked gear", "Show what the reference says of the marked gear"},
+      "I&nfo", kInfoButton, group));
+  row->addWidget(weight, 1);
+  rows->addLayout(row);
+  return group;
+}
+
+}  // namespace
+
+GearPage::GearPage(QWidget* parent) : FittedPage(parent) {
+  auto* left = new QVBoxLayout;
+  left->setSpacing(kGroupGap);
+  left->addWidget(MakeWeapons(this), 3);
+  left->addWidget(MakeArmour(this), 2);
+  auto* columns = new QHBoxLayout(this);
+  columns->setContentsMargins(0, kPageMargin, 0, 0);
+  columns->setSpacing(kGroupGap);
+  columns->addLayout(left, 5);
+  columns->addWidget(MakeGear(this), 2);
+  MeasureText();
+}
+
+}  // namespace ng

@@ -1,0 +1,213 @@
+#include "ui/layout_kit.h"
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QEvent>
+#include <QFrame>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <algorithm>
+
+#include "ui/elided_label.h"
+
+namespace ng {
+namespace {
+
+/// Size of the text where room is scarce.
+constexpr double kTightPoints = 9;
+
+constexpr int kLeastListWidth = 64;
+constexpr int kLeastListHeight = 48;
+constexpr int kLeastListColumn = 24;
+
+void Name(QWidget* widget, const Naming& naming) {
+  widget->setObjectName(naming.name);
+  widget->setAccessibleName(naming.accessible);
+  widget->setToolTip(naming.tip);
+}
+
+void AddColumn(QTreeWidget* list, int index, const ListColumn& column) {
+  QHeaderView* header = list->header();
+  list->headerItem()->setText(index, column.title);
+  list->headerItem()->setTextAlignment(index, column.alignment | Qt::AlignVCenter);
+  if (column.width == 0) {
+    header->setSectionResizeMode(index, QHeaderView::Stretch);
+  } else {
+    header->setSectionResizeMode(index, QHeaderView::Interactive);
+    header->resizeSection(index, column.width);
+  }
+}
+
+}  // namespace
+
+QString ElementName(const char* name, int index) {
+  return QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(index);
+}
+
+QString TipWithKey(const QString& tip, const QString& key) {
+  return QStringLiteral("%1 (%2)").arg(tip, key);
+}
+
+QGroupBox* MakeGroup(const QString& title, QWidget* parent) { return new QGroupBox(title, parent); }
+
+QVBoxLayout* MakeGroupRows(QGroupBox* group) {
+  auto* rows = new QVBoxLayout(group);
+  rows->setContentsMargins(kGroupPadding, kGroupPadding + 2, kGroupPadding, kGroupPadding - 2);
+  rows->setSpacing(kRowGap);
+  return rows;
+}
+
+QVBoxLayout* MakeTightRows(QGroupBox* group) {
+  QVBoxLayout* rows = MakeGroupRows(group);
+  rows->setContentsMargins(kGroupPadding - 1, kGroupPadding, kGroupPadding - 1, kGroupPadding - 4);
+  return rows;
+}
+
+QHBoxLayout* MakeRow(int gap) {
+  auto* row = new QHBoxLayout;
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(gap);
+  return row;
+}
+
+QFrame* MakeLine(Qt::Orientation orientation, QWidget* parent) {
+  auto* line = new QFrame(parent);
+  line->setObjectName(QStringLiteral("line"));
+  line->setAttribute(Qt::WA_StyledBackground);
+  if (orientation == Qt::Horizontal) {
+    line->setFixedHeight(1);
+  } else {
+    line->setFixedWidth(1);
+  }
+  return line;
+}
+
+QLabel* MakeCaption(const QString& text, QWidget* parent) {
+  auto* label = new QLabel(text, parent);
+  label->setProperty("tone", "muted");
+  return label;
+}
+
+QLabel* MakeValue(const QString& name, QWidget* parent) {
+  auto* label = new QLabel(parent);
+  label->setObjectName(name);
+  label->setTextFormat(Qt::PlainText);
+  Embolden(label);
+  return label;
+}
+
+ElidedLabel* MakeElided(const QString& name, QWidget* parent) {
+  auto* label = new ElidedLabel(parent);
+  label->setObjectName(name);
+  label->setTextFormat(Qt::PlainText);
+  label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  return label;
+}
+
+QLineEdit* MakeBox(const Naming& naming, int width, QWidget* parent) {
+  auto* box = new QLineEdit(parent);
+  Name(box, naming);
+  box->setAlignment(Qt::AlignCenter);
+  box->setFixedSize(width, kBoxHeight);
+  return box;
+}
+
+QCheckBox* MakeCheck(const Naming& naming, const QString& text, QWidget* parent) {
+  auto* check = new QCheckBox(text, parent);
+  Name(check, naming);
+  return check;
+}
+
+QPushButton* MakeButton(const Naming& naming, const QString& text, QWidget* parent) {
+  auto* button = new QPushButton(text, parent);
+  Name(button, naming);
+  button->setAutoDefault(false);
+  button->setMinimumSize(kSmallButtonWidth, kSmallButtonHeight);
+  return button;
+}
+
+void Embolden(QWidget* widget) {
+  QFont font = widget->font();
+  font.setBold(true);
+  widget->setFont(font);
+}
+
+QTreeWidget* MakeList(const Naming& naming, std::initializer_list<ListColumn> columns,
+                      QWidget* parent) {
+  auto* list = new QTreeWidget(parent);
+  Name(list, naming);
+  list->setColumnCount(static_cast<int>(columns.size()));
+  list->setRootIsDecorated(false);
+  list->setItemsExpandable(false);
+  list->setUniformRowHeights(true);
+  list->setAllColumnsShowFocus(true);
+  list->setMinimumSize(kLeastListWidth, kLeastListHeight);
+  list->header()->setStretchLastSection(false);
+  list->header()->setMinimumSectionSize(kLeastListColumn);
+  list->header()->setSectionsClickable(false);
+  int index = 0;
+  bool titled = false;
+  for (const ListColumn& column : columns) {
+    AddColumn(list, index++, column);
+    titled = titled || !column.title.isEmpty();
+  }
+  list->setHeaderHidden(!titled);
+  list->setAlternatingRowColors(titled);
+  return list;
+}
+
+QTreeWidget* MakePlainList(const Naming& naming, QWidget* parent) {
+  return MakeList(naming, {ListColumn{}}, parent);
+}
+
+QSize FittedPage::minimumSizeHint() const { return tight_; }
+
+void FittedPage::MeasureText() {
+  // A style sheet keeps the fonts that it finds at first, so the larger text comes first.
+  roomy_ = NeededWith(kTextPoints);
+  tight_ = NeededWith(kTightPoints);
+}
+
+bool FittedPage::event(QEvent* event) {
+  const bool handled = QWidget::event(event);
+  // New colours put the first fonts back, and the layouts ask for another arrangement.
+  const bool fit = event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest;
+  if (fit && roomy_.isValid() && tight_.isValid()) FitText();
+  return handled;
+}
+
+void FittedPage::FitText() {
+  const bool roomy = width() >= roomy_.width() && height() >= roomy_.height();
+  SetText(roomy ? kTextPoints : kTightPoints);
+}
+
+QSize FittedPage::NeededWith(double points) {
+  // The layouts would hear of the new font only when events are handled; the inner ones go first.
+  const QList<QWidget*> children = findChildren<QWidget*>();
+  for (QWidget* child : children) child->ensurePolished();
+  SetText(points);
+  std::for_each(children.rbegin(), children.rend(), [](QWidget* child) {
+    child->updateGeometry();
+    if (child->layout() != nullptr) child->layout()->activate();
+  });
+  layout()->activate();
+  return layout()->totalMinimumSize();
+}
+
+void FittedPage::SetText(double points) {
+  const double other = points == kTextPoints ? kTightPoints : kTextPoints;
+  // A style sheet keeps the fonts of parents from their children. What has a size of its own, the
+  // names and totals, keeps it.
+  for (QWidget* child : findChildren<QWidget*>()) {
+    QFont font = child->font();
+    if (font.pointSizeF() != other) continue;
+    font.setPointSizeF(points);
+    child->setFont(font);
+  }
+}
+
+}  // namespace ng

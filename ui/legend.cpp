@@ -1,0 +1,52 @@
+#include "ui/legend.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+
+namespace ng {
+namespace {
+
+/// A little piece of a row.
+class Swatch : public QWidget {
+ public:
+  Swatch(const QSize& size, const QColor& colour, qreal frame, QWidget* parent)
+      : QWidget(parent), colour_(colour), frame_(frame) {
+    setFixedSize(size);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    painter.setPen(QPen(Qt::black, frame_, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.setBrush(colour_);
+    const qreal half = frame_ / 2;
+    painter.drawRect(QRectF(rect()).adjusted(half, half, -half, -half));
+  }
+
+ private:
+  QColor colour_;
+  qreal frame_;
+};
+
+}  // namespace
+
+Legend::Legend(QWidget* parent) : QWidget(parent) {
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(4);
+  const auto add = [&](const QSize& size, const QColor& colour, qreal frame, const QString& text) {
+    row->addWidget(new Swatch(size, colour, frame, this));
+    auto* label = new QLabel(text, this);
+    label->setProperty("tone", "muted");
+    row->addWidget(label);
+    row->addSpacing(4);
+  };
+  add({12, 12}, QColor(0, 255, 0), 1, tr("turn"));
+  add({12, 12}, QColor(255, 255, 0), 1, tr("delay"));
+  add({12, 12}, QColor(255, 0, 0), 1, tr("inactive"));
+  add({20, 12}, Qt::white, 2, tr("shown"));
+  row->addStretch();
+}
+
+}  // namespace ng

@@ -1,0 +1,88 @@
+#include <QApplication>
+#include <clocale>
+#include <memory>
+
+#include "app/startup.h"
+#include "base/runtime_error.h"
+#include "base/seeded_uniform.h"
+#include "platform/files.h"
+#include "platform/seed.h"
+#include "platform/user_settings.h"
+#include "ui/icons.h"
+#include "ui/main_window.h"
+#include "ui/prompts.h"
+#include "ui/splash.h"
+#include "ui/text.h"
+#include "ui/theme.h"
+
+namespace ng {
+namespace {
+
+class RealWindows : public StartupWindows {
+ public:
+  RealWindows(Session& session, QtPrompts& prompts) : session_(session), prompts_(prompts) {}
+
+  void ShowSplash() override {
+    splash_ = std::make_unique<Splash>();
+    splash_->show();
+    splash_->repaint();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  }
+
+  void LoadMain() override {
+    main_ = std::make_unique<MainWindow>(session_);
+    prompts_.SetMainWindow(*main_, [this] { main_->PaintAll(); });
+  }
+
+  void UnloadSplash() override { splash_.reset(); }
+
+  void LoadRoller() override {}
+
+  void ShowMain() override { main_->show(); }
+
+ private:
+  Session& session_;
+  QtPrompts& prompts_;
+  std::unique_ptr<Splash> splash_;
+  std::unique_ptr<MainWindow> main_;
+};
+
+ProgramLocation Location() {
+  const QStringList arguments = QCoreApplication::arguments();
+  return {arguments.size() > 1 ? FromQString(arguments[1]) : std::string(),
+          FromQString(QCoreApplication::applicationDirPath())};
+}
+
+int Run(QApplication& application) {
+  NativeFiles files;
+  NativeUserSettings userSettings;
+  SeededUniform uniform(RandomSeed());
+  QtPrompts prompts;
+  Session session(Environment{files, uniform, prompts, userSettings, Location(), {}});
+  prompts.Attach(session);
+  session.main.darkColours = DesktopIsDark(application);
+  ApplyTheme(application, session.main.darkColours ? Theme::Dark() : Theme::Light());
+  RealWindows windows(session, prompts);
+  try {
+    Main(session, windows);
+  } catch (const RuntimeError& error) {
+    windows.UnloadSplash();
+    prompts.Message(error.what());
+    return 1;
+  }
+  return QApplication::exec();
+}
+
+}  // namespace
+}  // namespace ng
+
+int main(int argc, char* argv[]) {
+  QApplication application(argc, argv);
+  // The toolkit takes the desktop's locale over; numbers are written with a point wherever we are.
+  std::setlocale(LC_NUMERIC, "C");
+  // Splash and dialogs come and go before the main window is there; its closing ends the program.
+  QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setApplicationName(QStringLiteral("NGtracker"));
+  QApplication::setWindowIcon(ng::ApplicationIcon());
+  return ng::Run(application);
+}

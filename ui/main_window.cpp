@@ -1,0 +1,184 @@
+#include "ui/main_window.h"
+
+#include <QApplication>
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QScreen>
+#include <QShortcut>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTreeWidget>
+
+#include "app/controls.h"
+#include "ui/bind.h"
+#include "ui/button_keys.h"
+#include "ui/combat_page.h"
+#include "ui/command_bars.h"
+#include "ui/gear_page.h"
+#include "ui/header_panel.h"
+#include "ui/initiative_grid_view.h"
+#include "ui/legend.h"
+#include "ui/list_paint.h"
+#include "ui/notes_page.h"
+#include "ui/person_page.h"
+#include "ui/phase_label.h"
+#include "ui/theme.h"
+#include "ui/window_place.h"
+
+namespace ng {
+namespace {
+
+constexpr int kMargin = 8;
+constexpr int kGap = 6;
+constexpr int kLeftPane = 312;
+constexpr int kLeastLeftPane = 226;
+constexpr int kWidestLeftPane = 560;
+
+void ShowText(QLabel& label, const QString& text) {
+  if (label.text() != text) label.setText(text);
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Session& session) : session_(session) {
+  setWindowTitle(QStringLiteral("NGtracker"));
+  setObjectName(QStringLiteral("frmMain"));
+  setMinimumSize(kLeastWindow);
+  setContextMenuPolicy(Qt::NoContextMenu);
+  const Perform perform = [this](const Act& act) { Do(act); };
+  BuildMenus(*this, perform);
+  BuildToolbar(*this);
+
+  auto* splitter = new QSplitter(this);
+  splitter->setHandleWidth(7);
+  splitter->setChildrenCollapsible(false);
+  // A widget that is made where it belongs needs no second pass of the style sheet.
+  BuildLeftPane(splitter);
+  BuildRightPane(splitter);
+  splitter->setStretchFactor(0, 0);
+  splitter->setStretchFactor(1, 1);
+  splitter->setSizes({kLeftPane, kLeastWindow.width()});
+  setCentralWidget(splitter);
+  BuildStatusBar();
+
+  auto* toGrid = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+  connect(toGrid, &QShortcut::activated, this,
+          [this] { grid_->setFocus(Qt::ShortcutFocusReason); });
+  activeSkills_ = findChild<QTreeWidget*>(QStringLiteral("lstActive"));
+  weapons_ = findChild<QTreeWidget*>(QStringLiteral("lstWeapon"));
+  AddButtonKeys(*this);
+  binder_ = std::make_unique<Binder>(*this, perform);
+  PaintAll();
+  Place();
+  grid_->setFocus();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::BuildLeftPane(QWidget* parent) {
+  auto* pane = new QWidget(parent);
+  pane->setMinimumWidth(kLeastLeftPane);
+  pane->setMaximumWidth(kWidestLeftPane);
+  phase_ = new PhaseLabel(pane);
+  grid_ = new InitiativeGridView([this](const Act& act) { Do(act); }, pane);
+  auto* column = new QVBoxLayout(pane);
+  column->setContentsMargins(kMargin, kMargin, 0, kGap);
+  column->setSpacing(kGap);
+  column->addWidget(phase_);
+  column->addWidget(grid_, 1);
+  column->addWidget(new Legend(pane));
+}
+
+void MainWindow::BuildRightPane(QWidget* parent) {
+  auto* pane = new QWidget(parent);
+  auto* tabs = new QTabWidget(pane);
+  tabs->setObjectName(QStringLiteral("tabMain"));
+  tabs->setDocumentMode(true);
+  tabs->tabBar()->setDrawBase(false);
+  auto* pages = tabs->findChild<QStackedWidget*>();
+  tabs->addTab(new CombatPage(pages), tr("&1 Combat"));
+  tabs->addTab(new GearPage(pages), tr("&2 Gear"));
+  tabs->addTab(new PersonPage(pages), tr("&3 Person"));
+  tabs->addTab(new NotesPage(pages), tr("&4 Notes"));
+  auto* column = new QVBoxLayout(pane);
+  column->setContentsMargins(0, kMargin, kMargin, kGap);
+  column->setSpacing(4);
+  column->addWidget(new HeaderPanelView(pane));
+  column->addWidget(tabs, 1);
+}
+
+void MainWindow::BuildStatusBar() {
+  statusBar()->setSizeGripEnabled(false);
+  auto* message = new QLabel(this);
+  message->setObjectName(QStringLiteral("lblStatus"));
+  message->setContentsMargins(3, 0, 0, 0);
+  statusBar()->addWidget(message, 1);
+  for (QLabel** label : {&combatants_, &combatTurn_, &pass_, &roller_}) {
+    *label = new QLabel(this);
+    (*label)->setContentsMargins(0, 0, 10, 0);
+    statusBar()->addPermanentWidget(*label);
+  }
+}
+
+void MainWindow::Place() {
+  const WindowLayout& layout = session_.main.layout;
+  const QScreen* screen = QGuiApplication::screenAt(KeptCentre(layout));
+  if (screen == nullptr) screen = QGuiApplication::primaryScreen();
+  const QRect place = OpeningPlace(layout, screen->availableGeometry());
+  move(place.topLeft());
+  resize(place.size());
+}
+
+void MainWindow::Do(const Act& act) {
+  session_.Do(act);
+  PaintAll();
+  if (session_.main.closing) close();
+}
+
+void MainWindow::PaintAll() {
+  const MainForm& form = session_.main;
+  PaintColours();
+  binder_->Paint([&form](ControlVisitor& visitor) { VisitControls(form, visitor); });
+  ShowSelection(*activeSkills_, form.lstActiveIndex);
+  ShowSelection(*weapons_, form.lstWeaponIndex);
+  grid_->SetShownRow(form.ShownRow());
+  phase_->FitFont();
+  PaintCounts();
+  if (statusBar()->isHidden() == form.statusBarVisible) {
+    statusBar()->setVisible(form.statusBarVisible);
+  }
+}
+
+void MainWindow::PaintColours() {
+  const Theme& wanted = session_.main.darkColours ? Theme::Dark() : Theme::Light();
+  if (&wanted != &Theme::Current()) ApplyTheme(*qApp, wanted);
+}
+
+void MainWindow::PaintCounts() {
+  const MainForm& form = session_.main;
+  const int count = form.GridX.RowCount();
+  ShowText(*combatants_, count == 1 ? tr("1 combatant") : tr("%1 combatants").arg(count));
+  ShowText(*combatTurn_, tr("Combat turn %1").arg(form.fight.RoundCount.Value()));
+  ShowText(*pass_, tr("Pass %1").arg(form.fight.PhaseCnt.Value()));
+  const bool off = static_cast<bool>(session_.environment.settings.DisableNGDR);
+  ShowText(*roller_, off ? tr("Roller off") : tr("Roller on"));
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  // The place that a maximised window goes back to has no frame round it.
+  const QPoint frame = geometry().topLeft() - pos();
+  const bool plain = !isMaximized() && !isFullScreen();
+  session_.main.layout =
+      KeptLayout(plain ? QRect(pos(), size())
+                       : QRect(normalGeometry().topLeft() - frame, normalGeometry().size()));
+  session_.main.Form_Unload();
+  event->accept();
+  // The other windows go with the main window.
+  QCoreApplication::exit(0);
+}
+
+}  // namespace ng

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QMainWindow>
+#include <memory>
+
+#include "ui/acts.h"
+
+class QLabel;
+class QTreeWidget;
+
+namespace ng {
+
+class Binder;
+class InitiativeGridView;
+class PhaseLabel;
+
+/// The frame of the main window: menus, toolbar, grid, header, pages, status bar. It knows no
+/// rules; what the user does becomes an act, and then the window paints itself from the forms.
+class MainWindow : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  explicit MainWindow(Session& session);
+  ~MainWindow() override;
+
+  /// The one way in which the window changes anything.
+  void Do(const Act& act);
+  void PaintAll();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void BuildLeftPane(QWidget* parent);
+  void BuildRightPane(QWidget* parent);
+  void BuildStatusBar();
+  void Place();
+  void PaintColours();
+  void PaintCounts();
+
+  Session& session_;
+  PhaseLabel* phase_ = nullptr;
+  InitiativeGridView* grid_ = nullptr;
+  QTreeWidget* activeSkills_ = nullptr;
+  QTreeWidget* weapons_ = nullptr;
+  QLabel* combatants_ = nullptr;
+  QLabel* combatTurn_ = nullptr;
+  QLabel* pass_ = nullptr;
+  QLabel* roller_ = nullptr;
+  std::unique_ptr<Binder> binder_;
+};
+
+}  // namespace ng

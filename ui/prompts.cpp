@@ -1,0 +1,118 @@
+#include "ui/prompts.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "ui/input_dialog.h"
+#include "ui/loader_dialog.h"
+#include "ui/options_dialog.h"
+#include "ui/path_text.h"
+#include "ui/skill_level_dialog.h"
+#include "ui/text.h"
+
+namespace ng {
+namespace {
+
+constexpr int kBoxWidth = 350;
+
+const QString& Title() {
+  static const QString title = QStringLiteral("NGtracker");
+  return title;
+}
+
+/// "State File (*.ngt)|*.ngt" in the toolkit's form, in which the pattern stands in parentheses at
+/// the end of the description.
+QString ToolkitFilter(const std::string& filter) {
+  const QStringList parts = ToQString(filter).split(QLatin1Char('|'));
+  QStringList filters;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    const QString description = parts[i].section(QLatin1Char('('), 0, 0).trimmed();
+    QString patterns = parts[i + 1];
+    patterns.replace(QLatin1Char(';'), QLatin1Char(' '));
+    filters.append(QStringLiteral("%1 (%2)").arg(description, patterns));
+  }
+  return filters.join(QLatin1String(";;"));
+}
+
+std::optional<std::string> AskForFile(QWidget* parent, const FileDialog& dialog,
+                                      QFileDialog::AcceptMode mode) {
+  QFileDialog box(parent, ToQString(dialog.title), NativeText(dialog.directory),
+                  ToolkitFilter(dialog.filter));
+  box.setAcceptMode(mode);
+  box.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
+                                                  : QFileDialog::AnyFile);
+  box.setDefaultSuffix(ToQString(dialog.defaultExtension));
+  if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return std::nullopt;
+  return PathText(box.selectedFiles().constFirst());
+}
+
+}  // namespace
+
+void QtPrompts::SetMainWindow(QWidget& window, std::function<void()> paint) {
+  mainWindow_ = &window;
+  paint_ = std::move(paint);
+}
+
+QWidget* QtPrompts::Parent() const {
+  QWidget* modal = QApplication::activeModalWidget();
+  return modal != nullptr ? modal : mainWindow_.data();
+}
+
+void QtPrompts::PaintMainWindow() const {
+  if (mainWindow_ != nullptr) paint_();
+}
+
+void QtPrompts::Message(std::string_view text) {
+  PaintMainWindow();
+  QMessageBox box(QMessageBox::NoIcon, Title(), {}, QMessageBox::Ok, Parent());
+  box.setTextFormat(Qt::PlainText);
+  QString shown = ToQString(text);
+  shown.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+  box.setText(shown);
+  box.button(QMessageBox::Ok)->setIcon({});
+  // The box is a grid that takes its width from what stands in it.
+  if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+    grid->addItem(new QSpacerItem(kBoxWidth, 0), grid->rowCount(), 0, 1, grid->columnCount());
+  }
+  box.exec();
+}
+
+std::string QtPrompts::Input(std::string_view prompt) {
+  PaintMainWindow();
+  InputDialog dialog(Title(), ToQString(prompt), Parent());
+  return dialog.exec() == QDialog::Accepted ? FromQString(dialog.Answer()) : std::string();
+}
+
+void QtPrompts::Beep() { QApplication::beep(); }
+
+std::optional<std::string> QtPrompts::OpenFile(const FileDialog& dialog) {
+  return AskForFile(Parent(), dialog, QFileDialog::AcceptOpen);
+}
+
+std::optional<std::string> QtPrompts::SaveFile(const FileDialog& dialog) {
+  return AskForFile(Parent(), dialog, QFileDialog::AcceptSave);
+}
+
+void QtPrompts::ShowModal(ModalForm form) {
+  PaintMainWindow();
+  switch (form) {
+    case ModalForm::Loader:
+      LoaderDialog(*session_, Parent()).exec();
+      break;
+    case ModalForm::Options: {
+      // Before there is a main window it is the first start that asks.
+      const auto occasion = mainWindow_ == nullptr ? OptionsDialog::Occasion::FirstStart
+                                                   : OptionsDialog::Occasion::Wanted;
+      OptionsDialog(*session_, occasion, Parent()).exec();
+      break;
+    }
+    case ModalForm::SkillLevel:
+      SkillLevelDialog(*session_, Parent()).exec();
+      break;
+  }
+}
+
+}  // namespace ng

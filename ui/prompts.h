@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+
+#include "base/ports.h"
+
+namespace ng {
+
+class Session;
+
+/// The real questions and messages: modal windows of the toolkit.
+class QtPrompts : public Prompts {
+ public:
+  /// The session whose forms the modal dialogs show.
+  void Attach(Session& session) { session_ = &session; }
+  /// The window that the dialogs stand before, and what it does to show how far a command has come
+  /// when the command asks something in between.
+  void SetMainWindow(QWidget& window, std::function<void()> paint);
+
+  void Message(std::string_view text) override;
+  std::string Input(std::string_view prompt) override;
+  void Beep() override;
+  std::optional<std::string> OpenFile(const FileDialog& dialog) override;
+  std::optional<std::string> SaveFile(const FileDialog& dialog) override;
+  void ShowModal(ModalForm form) override;
+
+ private:
+  QWidget* Parent() const;
+  void PaintMainWindow() const;
+
+  Session* session_ = nullptr;
+  QPointer<QWidget> mainWindow_;
+  std::function<void()> paint_;
+};
+
+}  // namespace ng

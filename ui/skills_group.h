@@ -1,0 +1,11 @@
+#pragma once
+
+class QGroupBox;
+class QWidget;
+
+namespace ng {
+
+/// The active skills, what the marked one is to be used for, and the tests without a weapon.
+QGroupBox* MakeSkillsGroup(QWidget* parent);
+
+}  // namespace ng
