@@ -37,6 +37,7 @@ void HeaderPanel::Show(const PlayerRecord& record) {
 MainForm::MainForm(Environment& environment, LoaderForm& loader, OptionsForm& options)
     : gmLog(environment.files, environment.location.directory + "\\ngtracker.txt",
             [this](const std::string& failure) { statusMessage = failure; }),
+      reference(info, environment.files),
       GridX(fight),
       sequencer(fight, GridX, environment.uniform, environment.prompts, *this),
       actions(fight, characters, GridX, sequencer, gmLog, environment.prompts, *this),
@@ -46,6 +47,7 @@ MainForm::MainForm(Environment& environment, LoaderForm& loader, OptionsForm& op
           [this](Weapon weapon) { return WieldsInMelee(weapon); }),
       firing(fight, characters, weapons, ngdr, gmLog, environment.prompts, environment.settings),
       skillTests(fight, firing, ngdr, skillLevel, environment.prompts, environment.settings),
+      fightFiles(*this, environment),
       environment_(environment),
       loader_(loader),
       options_(options) {}
@@ -110,6 +112,22 @@ void MainForm::ImportCharacter(const std::string& name) {
   XFerPC(LoadCharacterFile(target, name));
   RecalcArmor();
 }
+
+void MainForm::mnuFileExit() {
+  if (fightFiles.Changed()) {
+    const SaveChoice choice = environment_.prompts.AskToSave(
+        "The fight has changed since it was last saved. Save it now?");
+    if (choice == SaveChoice::Cancel) return;
+    if (choice == SaveChoice::Save && !fightFiles.SaveState()) return;
+  }
+  closing = true;
+}
+
+void MainForm::mnuViewLog() {
+  logViewer.Form_Load(environment_.files, environment_.location.directory + "\\ngtracker.txt");
+}
+
+void MainForm::cmdAddNote() { gmLog.Add(environment_.prompts.Input(" Enter your note")); }
 
 void MainForm::mnuTReroll() { sequencer.Reroll(environment_.settings.CloneInit); }
 
@@ -313,6 +331,24 @@ void MainForm::txtNotes_Change(const std::string& text) {
   if (!Displaying()) return;
   txtNotes = text;
   Displayed().Notes = text;
+}
+
+void MainForm::txtNoteFileName_Change(const std::string& text) {
+  if (!Displaying()) return;
+  txtNoteFileName = text;
+  Displayed().NoteFileName = text;
+}
+
+void MainForm::ShowRestored(Slot slot) {
+  for (int i = 1; i <= Fight::kLastSlot; ++i) {
+    PlayerRecord& record = fight.Players[i];
+    // The file holds the boxes, not the code that the grid shows for them.
+    if (record.CurDamPhysical != 0 || record.CurDamStun != 0) {
+      record.CondCode = ConditionCode(record);
+    }
+  }
+  GridX.RefreshGrid();
+  XFerPC(slot);
 }
 
 void MainForm::tabMain_Click(int page) {

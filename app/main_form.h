@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "app/fight_files.h"
 #include "app/options_form.h"
 #include "app/settings.h"
 #include "base/ports.h"
@@ -18,6 +19,8 @@
 #include "import/reference_tables.h"
 #include "notes/gm_log.h"
 #include "notes/info_index.h"
+#include "notes/log_viewer.h"
+#include "notes/reference_form.h"
 #include "roller/dice_roller.h"
 #include "roller/skill_level.h"
 #include "tracker/actions.h"
@@ -82,6 +85,10 @@ class MainForm : private SequencerHost {
   InfoIndex info;
 
   GmLog gmLog;
+  LogViewer logViewer;
+  ReferenceForm reference;
+  /// The game master's window is open.
+  bool frmGMOpen = false;
   InitiativeGrid GridX;
   Sequencer sequencer;
   Actions actions;
@@ -95,6 +102,7 @@ class MainForm : private SequencerHost {
   SkillLevelForm skillLevel;
   Firing firing;
   SkillTests skillTests;
+  FightFiles fightFiles;
   /// The lines marked in the lists, -1 for none.
   int lstActiveIndex = -1;
   int lstWeaponIndex = -1;
@@ -118,7 +126,10 @@ class MainForm : private SequencerHost {
   /// Removes all combatants; nothing is asked.
   void mnuFileNew();
   void mnuFileOpen();
-  void mnuFileExit() { closing = true; }
+  void mnuFileSave() { fightFiles.SaveState(); }
+  void mnuFileLoad() { fightFiles.LoadState(); }
+  /// Closes the window; asks first when the fight has changed since it was saved.
+  void mnuFileExit();
   void mnuTReroll();
   void mnuTReset();
   void mnuTNext();
@@ -131,6 +142,11 @@ class MainForm : private SequencerHost {
   void mnuPMult();
   void mnuPRemove();
   void mnuViewOptions();
+  void mnuViewGM() { frmGMOpen = true; }
+  void mnuViewLog();
+  void mnuViewReference() { reference.Form_Load(); }
+  /// Asks for a line and adds the answer, whatever it is, to the game master's list.
+  void cmdAddNote();
   void mnuViewStatusBar() { statusBarVisible = !statusBarVisible; }
   void mnuViewDark() { darkColours = !darkColours; }
 
@@ -178,12 +194,20 @@ class MainForm : private SequencerHost {
   void lstWeapon_Check(int index);
   void lstGear_Check(int index);
   void txtNotes_Change(const std::string& text);
+  void txtNoteFileName_Change(const std::string& text);
+  void cmdNoteLoad() { fightFiles.LoadNote(); }
+  void cmdNoteSave() { fightFiles.SaveNote(); }
   void tabMain_Click(int page);
 
   /// Displays a combatant, 0 for none.
   void XFerPC(Slot slot) override;
   /// The armour and weight derivation for the displayed combatant.
   void RecalcArmor();
+
+  /// Stores what is on the sheet into the displayed record.
+  void StoreSheet() { SyncSheet(); }
+  /// Shows a fight that was read over this one, and this combatant of it.
+  void ShowRestored(Slot slot);
 
   // What the window shows beside the controls.
   /// "On turn", "Delayed", "Inactive" or "Waiting"; a dash with nobody displayed.

@@ -48,6 +48,9 @@ struct FileDialog {
   std::string defaultExtension;
 };
 
+/// What to do with a fight that was changed since it was last saved.
+enum class SaveChoice { Save, Discard, Cancel };
+
 /// What the program asks and tells the game master.
 class Prompts {
  public:
@@ -61,6 +64,7 @@ class Prompts {
   /// The chosen path, or nothing on Cancel.
   virtual std::optional<std::string> OpenFile(const FileDialog& dialog) = 0;
   virtual std::optional<std::string> SaveFile(const FileDialog& dialog) = 0;
+  virtual SaveChoice AskToSave(std::string_view question) = 0;
   /// Shows the form and returns when it is closed.
   virtual void ShowModal(ModalForm form) = 0;
 };

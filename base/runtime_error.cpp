@@ -26,6 +26,8 @@ const char* ErrorText(ErrorNumber number) {
       return "Path/File access error";
     case ErrorNumber::PathNotFound:
       return "Path not found";
+    case ErrorNumber::Cancelled:
+      return "Cancel was selected.";
   }
   return "Application-defined or object-defined error";
 }

@@ -18,6 +18,8 @@ enum class ErrorNumber {
   PermissionDenied = 70,
   PathFileAccess = 75,
   PathNotFound = 76,
+  /// The file dialog was cancelled where a command cannot go on without a file.
+  Cancelled = 32755,
 };
 
 /// The platform's text for `number`, as the error box shows it ("Overflow").

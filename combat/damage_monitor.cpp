@@ -24,6 +24,11 @@ const DamageLevel& LevelOf(Track track, Integer boxes) {
   return track == Track::Physical ? kLevels[i].physical : kLevels[i].stun;
 }
 
+std::string ConditionCode(const PlayerRecord& record) {
+  return {LevelOf(Track::Stun, record.CurDamStun).letter,
+          LevelOf(Track::Physical, record.CurDamPhysical).letter};
+}
+
 void DamagePanel::Show(const PlayerRecord& record) {
   arPBDamage = {std::min<Integer>(record.CurDamPhysical, kBoxes),
                 std::min<Integer>(record.CurDamStun, kBoxes)};
@@ -85,9 +90,7 @@ void DamageMonitor::UpdateDamageDisplay() {
     record.CurDamPhysical += record.CurDamStun - DamagePanel::kBoxes;
     record.CurDamStun = DamagePanel::kBoxes;
   }
-  const char stunLetter = LevelOf(Track::Stun, record.CurDamStun).letter;
-  const char physicalLetter = LevelOf(Track::Physical, record.CurDamPhysical).letter;
-  record.CondCode = {stunLetter, physicalLetter};
+  record.CondCode = ConditionCode(record);
   if (record.CurDamPhysical >= DamagePanel::kBoxes) record.RRSLT = 0;
   // Pain resistance is spent on stun first.
   Integer pain = record.PainResistance;

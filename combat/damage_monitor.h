@@ -22,6 +22,9 @@ struct DamageLevel {
 /// unconscious or dying at 10. More than 10 boxes count as 10.
 const DamageLevel& LevelOf(Track track, Integer boxes);
 
+/// The condition code of a record: the stun letter and the physical letter ("0L", "UD").
+std::string ConditionCode(const PlayerRecord& record);
+
 /// The damage panel of the displayed combatant.
 struct DamagePanel {
   static constexpr int kBoxes = 10;

@@ -37,24 +37,47 @@ ImportedCharacter ReadCharacter(const ImportTarget& target, const std::string& f
   return character;
 }
 
+/// Takes the slot and, at the end of the order, a place.
+void TakeSlot(Fight& fight, Slot slot, PlayerRecord record) {
+  fight.Players[slot] = std::move(record);
+  // A nameless combatant is not counted and so stands in no place of the order.
+  const OrderPosition last = fight.CountPlayers();
+  if (!fight.Players[slot].Name.empty()) fight.InitOrder[last] = slot;
+}
+
+Slot RequiredSlot(const Fight& fight) {
+  const Slot slot = fight.FindFreeSlot();
+  if (slot == 0) ThrowSubscript();
+  return slot;
+}
+
 }  // namespace
 
 Slot LoadCharacterFile(const ImportTarget& target, const std::string& fileName) {
-  Fight& fight = target.fight;
   const std::string fullName = FullCharacterName(target.settings.NG3Dir, fileName);
-  const Slot slot = fight.FindFreeSlot();
-  if (slot == 0) ThrowSubscript();
+  const Slot slot = RequiredSlot(target.fight);
   const CharacterIndex index = target.characters.FindFree();
 
   // All that can fail comes before the first change.
   ImportedCharacter character = ReadCharacter(target, fullName);
   character.record.CharacterData = index;
   target.characters.entries[index] = std::move(character.entry);
-  fight.Players[slot] = std::move(character.record);
-  fight.InfoCnt = target.characters.Count();
-  // A nameless combatant is not counted and so stands in no place of the order.
-  const OrderPosition last = fight.CountPlayers();
-  if (!fight.Players[slot].Name.empty()) fight.InitOrder[last] = slot;
+  target.fight.InfoCnt = target.characters.Count();
+  TakeSlot(target.fight, slot, std::move(character.record));
+  return slot;
+}
+
+Slot LoadCharacterFile(const ImportTarget& target, ImportedSheets& sheets,
+                       const std::string& fileName) {
+  const std::string fullName = FullCharacterName(target.settings.NG3Dir, fileName);
+  const auto known = sheets.find(fullName);
+  if (known == sheets.end()) {
+    const Slot slot = LoadCharacterFile(target, fullName);
+    sheets.emplace(fullName, target.fight.Players[slot]);
+    return slot;
+  }
+  const Slot slot = RequiredSlot(target.fight);
+  TakeSlot(target.fight, slot, known->second);
   return slot;
 }
 

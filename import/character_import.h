@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 
 #include "app/settings.h"
@@ -23,5 +24,13 @@ struct ImportTarget {
 /// is read and parsed once. A 51st sheet and a 101st combatant end in "Subscript out of range"; no
 /// runtime error on the way leaves a trace of this character in the fight.
 Slot LoadCharacterFile(const ImportTarget& target, const std::string& fileName);
+
+/// The combatants that one restoring of a fight has imported, by full file name.
+using ImportedSheets = std::map<std::string, PlayerRecord>;
+
+/// The same for restoring a fight: a file that `sheets` knows is not read again, and its combatants
+/// share one sheet, as copies do.
+Slot LoadCharacterFile(const ImportTarget& target, ImportedSheets& sheets,
+                       const std::string& fileName);
 
 }  // namespace ng

@@ -54,6 +54,8 @@ class Sequencer {
   /// Walks back over recorded steps; neither shows a sheet nor moves `LTurn`.
   void Previous();
   void ClearEvents();
+  /// Takes up a turn number from a saved fight: sets `LTurn` and nothing else.
+  void TakeUpTurn(OrderPosition turn) { fight_.LTurn = turn; }
   /// 0 is physical, 1 astral, for the displayed combatant; counts from the next re-roll on.
   void SetInitMode(int option);
 

@@ -96,6 +96,14 @@ std::optional<std::string> QtPrompts::SaveFile(const FileDialog& dialog) {
   return AskForFile(Parent(), dialog, QFileDialog::AcceptSave);
 }
 
+SaveChoice QtPrompts::AskToSave(std::string_view question) {
+  const QMessageBox::StandardButton answer = QMessageBox::question(
+      Parent(), Title(), ToQString(question),
+      QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+  if (answer == QMessageBox::Save) return SaveChoice::Save;
+  return answer == QMessageBox::Discard ? SaveChoice::Discard : SaveChoice::Cancel;
+}
+
 void QtPrompts::ShowModal(ModalForm form) {
   PaintMainWindow();
   switch (form) {

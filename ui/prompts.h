@@ -24,6 +24,7 @@ class QtPrompts : public Prompts {
   void Beep() override;
   std::optional<std::string> OpenFile(const FileDialog& dialog) override;
   std::optional<std::string> SaveFile(const FileDialog& dialog) override;
+  SaveChoice AskToSave(std::string_view question) override;
   void ShowModal(ModalForm form) override;
 
  private:

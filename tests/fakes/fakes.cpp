@@ -117,6 +117,12 @@ std::optional<std::string> ScriptedPrompts::SaveFile(const FileDialog& dialog) {
   return ChooseFile("save", dialog);
 }
 
+SaveChoice ScriptedPrompts::AskToSave(std::string_view question) {
+  const Answer answer = TakeAnswer("save? " + Quoted(question));
+  if (answer.kind == Answer::Kind::Save) return SaveChoice::Save;
+  return answer.kind == Answer::Kind::Discard ? SaveChoice::Discard : SaveChoice::Cancel;
+}
+
 void ScriptedPrompts::ShowModal(ModalForm form) {
   constexpr std::array<const char*, 3> kNames = {"frmOptions", "frmLoader", "frmSelSkillLevel"};
   const Answer answer =

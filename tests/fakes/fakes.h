@@ -63,7 +63,7 @@ class ScriptedUniform : public Uniform {
 class ScriptedPrompts : public Prompts {
  public:
   struct Answer {
-    enum class Kind { Input, File, Cancel, Modal };
+    enum class Kind { Input, File, Cancel, Save, Discard, Modal };
     Kind kind;
     std::string text;
     /// What is done in a modal form.
@@ -84,6 +84,7 @@ class ScriptedPrompts : public Prompts {
   void Beep() override { log.emplace_back("beep"); }
   std::optional<std::string> OpenFile(const FileDialog& dialog) override;
   std::optional<std::string> SaveFile(const FileDialog& dialog) override;
+  SaveChoice AskToSave(std::string_view question) override;
   void ShowModal(ModalForm form) override;
 
  private:

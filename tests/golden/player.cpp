@@ -86,6 +86,8 @@ ScriptedPrompts::Answer ReadAnswer(std::string_view line) {
   if (kind == "cancel") return {Kind::Cancel, {}, {}};
   if (kind == "file") return {Kind::File, words.Text(), {}};
   if (kind == "input") return {Kind::Input, words.Text(), {}};
+  if (kind == "save") return {Kind::Save, {}, {}};
+  if (kind == "discard") return {Kind::Discard, {}, {}};
   if (kind == "modal") return {Kind::Modal, {}, {}};
   throw std::runtime_error("no kind of answer: " + kind);
 }

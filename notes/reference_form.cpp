@@ -1,0 +1,39 @@
+#include "notes/reference_form.h"
+
+namespace ng {
+
+void ReferenceForm::Form_Load() {
+  open = true;
+  txtFilter_Change(txtFilter);
+}
+
+void ReferenceForm::txtFilter_Change(const std::string& text) {
+  txtFilter = text;
+  entries_ = info_.Matching(text);
+  lstNames.clear();
+  for (const int entry : entries_) lstNames.push_back(info_.At(entry).name);
+  lstNames_Select(lstNames.empty() ? -1 : 0);
+}
+
+void ReferenceForm::lstNames_Select(int index) {
+  const bool there = index >= 0 && index < static_cast<int>(entries_.size());
+  lstNamesIndex = there ? index : -1;
+  txtEntry.clear();
+  if (!there) return;
+  for (const std::string& line :
+       info_.EntryLines(files_, entries_[static_cast<std::size_t>(index)])) {
+    if (!txtEntry.empty()) txtEntry += "\r\n";
+    txtEntry += line;
+  }
+}
+
+bool ReferenceForm::ShowEntry(const std::string& name) {
+  const int entry = info_.Find(name);
+  if (entry < 0) return false;
+  txtFilter.clear();
+  Form_Load();
+  lstNames_Select(entry);
+  return true;
+}
+
+}  // namespace ng

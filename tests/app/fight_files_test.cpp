@@ -1,0 +1,208 @@
+#include "app/fight_files.h"
+
+#include <gtest/gtest.h>
+
+#include "base/text.h"
+#include "fakes/test_program.h"
+
+namespace ng {
+namespace {
+
+using Kind = ScriptedPrompts::Answer::Kind;
+
+const std::string kState = "D:\\fights\\alley.ngt";
+
+/// Three characters of two files, imported and fighting.
+class FightFilesTest : public testing::Test {
+ protected:
+  FightFilesTest() {
+    PutCharacters(program.files);
+    program.Import({0, 1});
+    program.Import({0});
+    program.uniform.RepeatFace(3);
+    program.Do("mnuTReroll");
+    program.Do("mnuTNext");
+    program.Do("mnuTNext");
+    program.Do("cmdMDam", 0);
+    program.Do("txtPainResistance", 0, "1");
+    program.Do("txtRC", 1, "2");
+  }
+
+  static void PutCharacters(FakeFiles& files) {
+    for (const char* name : {"Ash", "Birch"}) {
+      files.Put("C:\\chars\\" + std::string(name) + ".ng3",
+                "[General]\nCharName=" + std::string(name) +
+                    "\n[System]\nFinalize=True\n[Attributes]\nBody=4|0|0|1\n"
+                    "Initiative=1|0|0|0\nReaction=5|0|0|0\n[Gear]\nGear0=X:Rope~9|1|2.50\n");
+    }
+  }
+
+  void Save(TestProgram& target) {
+    target.prompts.answers.push_back({Kind::File, kState, {}});
+    target.Do("mnuFileSave");
+  }
+  static void Load(TestProgram& target) {
+    target.prompts.answers.push_back({Kind::File, kState, {}});
+    target.Do("mnuFileLoad");
+  }
+
+  TestProgram program;
+};
+
+TEST_F(FightFilesTest, ASavedFightIsTakenUpByAnotherRun) {
+  Save(program);
+  EXPECT_EQ(program.main.statusMessage, "Fight saved");
+  TestProgram later;
+  PutCharacters(later.files);
+  later.files.Put(kState, program.files.ReadWhole(kState));
+  Load(later);
+  EXPECT_EQ(later.prompts.log,
+            std::vector<std::string>{"open \"Open State File\" \"State File (*.ngt)|*.ngt\""});
+  EXPECT_EQ(later.main.statusMessage, "Fight of 3 combatants restored");
+  EXPECT_EQ(later.fight.CountPlayers().Value(), 3);
+  // The wounds, the panel's numbers and the rolls are there; the turn begins anew.
+  const Slot wounded = program.fight.CurrentPCpointer;
+  const PlayerRecord& record = later.fight.Players[wounded];
+  EXPECT_EQ(record.CurDamPhysical.Value(), 3);
+  EXPECT_EQ(record.PainResistance.Value(), 1);
+  EXPECT_EQ(record.RCSec, "2");
+  EXPECT_EQ(record.CondCode, "0M");
+  EXPECT_EQ(record.FRSLT.Value(), 6);
+  EXPECT_EQ(later.fight.RoundCount.Value(), 1);
+  EXPECT_EQ(later.fight.SeqNum.Value(), 0);
+  EXPECT_EQ(later.fight.LTurn, program.fight.LTurn);
+  EXPECT_EQ(later.fight.CurrentPCpointer.Value(), 3);
+  // Each character file was read once, and the two that came from one share a sheet.
+  EXPECT_EQ(later.files.reads["c:\\chars\\ash.ng3"], 1);
+  EXPECT_EQ(later.main.characters.Count().Value(), 2);
+  EXPECT_EQ(later.main.sheet.lstGear.size(), 1U);
+}
+
+TEST_F(FightFilesTest, AHundredOfOneFileComeBack) {
+  program.Do("GridX_Click", 1);
+  for (int i = 0; i < 5; ++i) {
+    program.prompts.answers.push_back({Kind::Input, "21", {}});
+    program.Do("mnuPMult");
+  }
+  Save(program);
+  TestProgram later;
+  PutCharacters(later.files);
+  later.files.Put(kState, program.files.ReadWhole(kState));
+  Load(later);
+  EXPECT_EQ(later.fight.CountPlayers().Value(), 100);
+  EXPECT_EQ(later.main.GridX.RowCount(), 100);
+}
+
+TEST_F(FightFilesTest, AFailureLeavesTheOldFileOrWhatWasRead) {
+  Save(program);
+  const std::string whole = program.files.ReadWhole(kState);
+  program.Do("cmdDDam", 0);
+  program.files.failingWrite = 1;
+  program.prompts.TakeLog();
+  Save(program);
+  EXPECT_EQ(program.prompts.log.back(), "message \"Disk full\"");
+  EXPECT_EQ(program.files.ReadWhole(kState), whole);
+  EXPECT_TRUE(program.main.fightFiles.Changed());
+
+  TestProgram later;
+  PutCharacters(later.files);
+  const std::size_t slot2 = whole.find("[Slot2]");
+  later.files.Put(kState,
+                  whole.substr(0, slot2) + Replaced(whole.substr(slot2), "\r\nKP=", "\r\nXX="));
+  Load(later);
+  EXPECT_EQ(later.prompts.log.back(), "message \"Type mismatch%0D%0AKP, slot 2\"");
+  EXPECT_EQ(later.main.GridX.RowCount(), 2);
+  Load(later);
+  later.files.Put(kState, whole);
+  later.prompts.answers.push_back({Kind::File, "D:\\gone.ngt", {}});
+  later.Do("mnuFileLoad");
+  EXPECT_EQ(later.prompts.log.back(), "message \"File not found\"");
+}
+
+TEST_F(FightFilesTest, ASaveNamesWhomItLeavesOut) {
+  program.Do("GridX_Click", program.fight.FindInOrder(1).Value());
+  program.Do("mnuPRemove");
+  Save(program);
+  EXPECT_EQ(program.main.statusMessage,
+            "Fight saved; beyond slot 2 and so not in the file: Ash::1");
+}
+
+TEST_F(FightFilesTest, ClosingAsksForAChangedFightOnly) {
+  const auto exit = [&](Kind kind) {
+    program.prompts.answers.push_back({kind, kState, {}});
+    program.Do("mnuFileExit");
+    return program.main.closing;
+  };
+  EXPECT_FALSE(exit(Kind::Cancel));
+  program.prompts.answers.push_back({Kind::Save, {}, {}});
+  EXPECT_FALSE(exit(Kind::Cancel));  // the file dialog was cancelled
+  Save(program);
+  program.Do("GridX_Click", 1);
+  program.Do("tabMain", 2);
+  EXPECT_FALSE(program.main.fightFiles.Changed());  // looks are no changes
+  program.Do("cmdReduce", 0);
+  program.Do("cmdIncrease", 0);
+  program.Do("cmdIncrease", 1);
+  EXPECT_TRUE(exit(Kind::Discard));
+  program.main.closing = false;
+  Save(program);
+  program.Do("mnuFileExit");
+  EXPECT_TRUE(program.main.closing);
+}
+
+TEST_F(FightFilesTest, NotesHaveAFileOfTheirOwnOrStayWhileTheProgramRuns) {
+  program.Do("GridX_Click", 1);
+  program.Do("txtNotes", 0, "talks\r\nfirst_");
+  program.prompts.TakeLog();
+  program.prompts.answers.push_back({Kind::Cancel, {}, {}});
+  program.Do("cmdNoteSave");
+  EXPECT_EQ(program.prompts.TakeLog(),
+            std::vector<std::string>{"save \"Save Note File\" \"Text Files (*.txt)|*.txt\""});
+  program.prompts.answers.push_back({Kind::Cancel, {}, {}});
+  program.Do("cmdNoteLoad");
+  EXPECT_EQ(program.prompts.TakeLog().back(), "message \"Cancel was selected.\"");
+  program.prompts.answers.push_back({Kind::File, "D:\\a.txt", {}});
+  program.Do("cmdNoteSave");
+  EXPECT_EQ(program.files.ReadWhole("D:\\a.txt"), "talks^`first_\r\n");
+  const Slot slot = program.fight.CurrentPCpointer;
+  EXPECT_EQ(program.fight.Players[slot].NoteFileName, "D:\\a.txt");
+  program.Do("txtNotes", 0, "other");
+  program.Do("GridX_Click", 2);
+  EXPECT_EQ(program.main.txtNotes, "");
+  program.Do("GridX_Click", 1);
+  EXPECT_EQ(program.main.txtNotes, "other");
+  program.Do("cmdNoteLoad");
+  EXPECT_EQ(program.main.txtNotes, "talks\r\nfirst ");
+}
+
+TEST_F(FightFilesTest, TheLogGrowsAndItsFailureIsToldOnce) {
+  program.prompts.answers.push_back({Kind::Input, "", {}});
+  program.Do("frmGM.cmdAddNote");
+  program.Do("mnuViewLog");
+  EXPECT_EQ(program.main.logViewer.lstDisplay, std::vector<std::string>{""});
+  program.main.statusMessage.clear();
+  for (int i = 0; i < 2; ++i) {
+    program.files.failingWrite = 1;
+    program.prompts.answers.push_back({Kind::Input, "gate shut", {}});
+    program.Do("frmGM.cmdAddNote");
+    EXPECT_EQ(program.main.statusMessage, i == 0 ? "The log is not written: Disk full" : "");
+    program.main.statusMessage.clear();
+  }
+  EXPECT_EQ(program.main.gmLog.lstGMinfo().size(), 3U);
+}
+
+TEST_F(FightFilesTest, TheReferenceWindowFindsEntries) {
+  program.files.Put("C:\\tracker\\info.dat",
+                    "!x\nPistols|short arms|loud\nPoles|long\n\nBows|quiet\n");
+  program.main.info.Load(program.files, {"C:\\tracker\\info.dat"});
+  program.Do("mnuViewReference");
+  EXPECT_EQ(program.main.reference.lstNames.size(), 3U);
+  program.Do("frmReference.txtFilter", 0, "PO");
+  EXPECT_EQ(program.main.reference.lstNames.size(), 1U);
+  EXPECT_TRUE(program.main.reference.ShowEntry("pistols"));
+  EXPECT_EQ(program.main.reference.txtEntry, "short arms|loud");
+  EXPECT_FALSE(program.main.reference.ShowEntry("Clubs"));
+}
+
+}  // namespace
+}  // namespace ng
