@@ -23,6 +23,7 @@
 #include "ui/initiative_grid_view.h"
 #include "ui/legend.h"
 #include "ui/list_paint.h"
+#include "ui/note_windows.h"
 #include "ui/notes_page.h"
 #include "ui/person_page.h"
 #include "ui/phase_label.h"
@@ -136,6 +137,8 @@ void MainWindow::Place() {
 void MainWindow::Do(const Act& act) {
   session_.Do(act);
   PaintAll();
+  // Open already, it comes to the front.
+  if (act.control == "mnuViewGM") gameMaster_->raise();
   if (session_.main.closing) close();
 }
 
@@ -148,9 +151,24 @@ void MainWindow::PaintAll() {
   grid_->SetShownRow(form.ShownRow());
   phase_->FitFont();
   PaintCounts();
+  PaintNoteWindows();
   if (statusBar()->isHidden() == form.statusBarVisible) {
     statusBar()->setVisible(form.statusBarVisible);
   }
+}
+
+/// Most evenings open few of these windows, so each is made when it is first wanted.
+void MainWindow::PaintNoteWindows() {
+  const MainForm& form = session_.main;
+  const Perform perform = [this](const Act& act) { Do(act); };
+  if (form.frmGMOpen && gameMaster_ == nullptr) gameMaster_ = new GmWindow(perform, this);
+  if (form.logViewer.open && log_ == nullptr) log_ = new LogWindow(perform, this);
+  if (form.reference.open && reference_ == nullptr) {
+    reference_ = new ReferenceWindow(perform, this);
+  }
+  if (gameMaster_ != nullptr) gameMaster_->Paint(form);
+  if (log_ != nullptr) log_->Paint(form);
+  if (reference_ != nullptr) reference_->Paint(form);
 }
 
 void MainWindow::PaintColours() {
@@ -169,6 +187,11 @@ void MainWindow::PaintCounts() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+  if (!session_.main.closing) {
+    event->ignore();
+    Do({"mnuFileExit"});
+    return;
+  }
   // The place that a maximised window goes back to has no frame round it.
   const QPoint frame = geometry().topLeft() - pos();
   const bool plain = !isMaximized() && !isFullScreen();

@@ -11,8 +11,11 @@ class QTreeWidget;
 namespace ng {
 
 class Binder;
+class GmWindow;
 class InitiativeGridView;
+class LogWindow;
 class PhaseLabel;
+class ReferenceWindow;
 
 /// The frame of the main window: menus, toolbar, grid, header, pages, status bar. It knows no
 /// rules; what the user does becomes an act, and then the window paints itself from the forms.
@@ -37,6 +40,7 @@ class MainWindow : public QMainWindow {
   void Place();
   void PaintColours();
   void PaintCounts();
+  void PaintNoteWindows();
 
   Session& session_;
   PhaseLabel* phase_ = nullptr;
@@ -47,6 +51,9 @@ class MainWindow : public QMainWindow {
   QLabel* combatTurn_ = nullptr;
   QLabel* pass_ = nullptr;
   QLabel* roller_ = nullptr;
+  GmWindow* gameMaster_ = nullptr;
+  LogWindow* log_ = nullptr;
+  ReferenceWindow* reference_ = nullptr;
   std::unique_ptr<Binder> binder_;
 };
 

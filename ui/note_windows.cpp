@@ -1,0 +1,175 @@
+#include "ui/note_windows.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTreeWidget>
+#include <utility>
+
+#include "ui/layout_kit.h"
+#include "ui/text.h"
+
+namespace ng {
+namespace {
+
+constexpr int kEdge = 12;
+
+/// Fills a list where it shows something else; returns whether it did.
+bool ShowLines(QTreeWidget& list, const std::vector<std::string>& lines) {
+  const int count = static_cast<int>(lines.size());
+  bool same = list.topLevelItemCount() == count;
+  for (int i = 0; same && i < count; ++i) {
+    same = list.topLevelItem(i)->text(0) == ToQString(lines[static_cast<std::size_t>(i)]);
+  }
+  if (same) return false;
+  const QSignalBlocker quiet(list);
+  list.clear();
+  for (const std::string& line : lines) new QTreeWidgetItem(&list, {ToQString(line)});
+  return true;
+}
+
+QVBoxLayout* MakeColumn(QWidget* window) {
+  auto* column = new QVBoxLayout(window);
+  column->setContentsMargins(kEdge, kEdge, kEdge, kEdge);
+  column->setSpacing(kGroupGap);
+  return column;
+}
+
+}  // namespace
+
+SideWindow::SideWindow(const QString& name, const QString& title, const char* closeAct,
+                       Perform perform, QWidget* parent)
+    : QDialog(parent), closeAct_(closeAct), perform_(std::move(perform)) {
+  setObjectName(name);
+  setWindowTitle(title);
+  setModal(false);
+}
+
+void SideWindow::reject() { Do({closeAct_}); }
+
+void SideWindow::SetOpen(bool open) {
+  if (open == isVisible()) return;
+  setVisible(open);
+  if (open) activateWindow();
+}
+
+GmWindow::GmWindow(const Perform& perform, QWidget* parent)
+    : SideWindow(QStringLiteral("frmGM"), tr("Game Master"), "frmGM.Close", perform, parent) {
+  resize(420, 350);
+  lines_ = MakePlainList({QStringLiteral("lstGMinfo"), tr("Game master's notes"),
+                          tr("What happened, and the notes that you added")},
+                         this);
+  auto* add = MakeButton(
+      {QStringLiteral("cmdAddNote"), tr("Add a note"), tr("Add a line of your own to the list")},
+      tr("&Add Note"), this);
+  add->setDefault(true);
+  auto* log = MakeButton({QStringLiteral("cmdViewLog"), tr("View the log file"),
+                          tr("Show what the log file holds of this and earlier evenings")},
+                         tr("&View Log"), this);
+  auto* shut = MakeButton({QStringLiteral("cmdClose"), tr("Close the window"),
+                           TipWithKey(tr("Close the window"), tr("Esc"))},
+                          tr("Close"), this);
+  connect(add, &QPushButton::clicked, this, [this] { Do({"frmGM.cmdAddNote"}); });
+  connect(log, &QPushButton::clicked, this, [this] { Do({"frmGM.cmdViewLog"}); });
+  connect(shut, &QPushButton::clicked, this, [this] { reject(); });
+  auto* buttons = MakeRow(kGroupGap);
+  buttons->addWidget(add);
+  buttons->addWidget(log);
+  buttons->addStretch(1);
+  buttons->addWidget(shut);
+  auto* column = MakeColumn(this);
+  column->addWidget(lines_, 1);
+  column->addLayout(buttons);
+}
+
+void GmWindow::Paint(const MainForm& form) {
+  if (ShowLines(*lines_, form.gmLog.lstGMinfo())) lines_->scrollToBottom();
+  const bool opens = form.frmGMOpen && !isVisible();
+  SetOpen(form.frmGMOpen);
+  if (opens) lines_->scrollToBottom();
+}
+
+LogWindow::LogWindow(const Perform& perform, QWidget* parent)
+    : SideWindow(QStringLiteral("frmDisplay"), tr("Log"), "frmDisplay.cmdClose", perform, parent) {
+  resize(420, 350);
+  lines_ = MakePlainList(
+      {QStringLiteral("lstDisplay"), tr("Lines of the log file"), tr("Every line of the log file")},
+      this);
+  count_ = MakeCaption({}, this);
+  auto* shut = MakeButton({QStringLiteral("cmdClose"), tr("Close the window"),
+                           TipWithKey(tr("Close the window"), tr("Esc"))},
+                          tr("Close"), this);
+  connect(shut, &QPushButton::clicked, this, [this] { reject(); });
+  auto* row = MakeRow(kGroupGap);
+  row->addWidget(count_, 1);
+  row->addWidget(shut);
+  auto* column = MakeColumn(this);
+  column->addWidget(lines_, 1);
+  column->addLayout(row);
+}
+
+void LogWindow::Paint(const MainForm& form) {
+  if (ShowLines(*lines_, form.logViewer.lstDisplay)) lines_->scrollToBottom();
+  const auto count = form.logViewer.lstDisplay.size();
+  count_->setText(count == 1 ? tr("1 line") : tr("%1 lines").arg(count));
+  SetOpen(form.logViewer.open);
+}
+
+ReferenceWindow::ReferenceWindow(const Perform& perform, QWidget* parent)
+    : SideWindow(QStringLiteral("frmReference"), tr("Reference"), "frmReference.Close", perform,
+                 parent) {
+  resize(620, 400);
+  filter_ = MakeBox({QStringLiteral("txtFilter"), tr("Part of the name"),
+                     tr("Show the entries whose name contains this")},
+                    0, this);
+  filter_->setMinimumWidth(180);
+  filter_->setMaximumWidth(QWIDGETSIZE_MAX);
+  filter_->setAlignment(Qt::AlignLeft);
+  filter_->setPlaceholderText(tr("Part of the name"));
+  filter_->setClearButtonEnabled(true);
+  names_ = MakePlainList(
+      {QStringLiteral("lstNames"), tr("Entries"), tr("The entries of the reference file")}, this);
+  entry_ = new QPlainTextEdit(this);
+  entry_->setObjectName(QStringLiteral("txtEntry"));
+  entry_->setAccessibleName(tr("Text of the entry"));
+  entry_->setToolTip(tr("What the reference file says"));
+  entry_->setReadOnly(true);
+  connect(filter_, &QLineEdit::textEdited, this, [this](const QString& text) {
+    Do({"frmReference.txtFilter", 0, FromQString(text)});
+  });
+  connect(names_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
+    if (item != nullptr) Do({"frmReference.lstNames_Select", names_->indexOfTopLevelItem(item)});
+  });
+  auto* left = new QVBoxLayout;
+  left->setSpacing(kGroupGap);
+  left->addWidget(filter_);
+  left->addWidget(names_, 1);
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(kEdge, kEdge, kEdge, kEdge);
+  row->setSpacing(kGroupGap);
+  row->addLayout(left, 2);
+  row->addWidget(entry_, 3);
+}
+
+void ReferenceWindow::Paint(const MainForm& form) {
+  const ReferenceForm& reference = form.reference;
+  const QString filter = ToQString(reference.txtFilter);
+  if (filter_->text() != filter) filter_->setText(filter);
+  ShowLines(*names_, reference.lstNames);
+  {
+    const QSignalBlocker quiet(*names_);
+    names_->setCurrentItem(names_->topLevelItem(reference.lstNamesIndex));
+  }
+  // The fields of an entry stand below one another.
+  QString text = ToQString(reference.txtEntry);
+  text.replace(QLatin1Char('|'), QLatin1Char('\n')).remove(QLatin1Char('\r'));
+  if (entry_->toPlainText() != text) entry_->setPlainText(text);
+  const bool opens = reference.open && !isVisible();
+  SetOpen(reference.open);
+  if (opens) filter_->setFocus();
+}
+
+}  // namespace ng

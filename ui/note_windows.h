@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QDialog>
+
+#include "app/main_form.h"
+#include "ui/acts.h"
+
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QTreeWidget;
+
+namespace ng {
+
+/// A window beside the main one that follows a form: shown while the form is open, brought to the
+/// front when it is asked for again. Closing it is an act, too.
+class SideWindow : public QDialog {
+  Q_OBJECT
+
+ public:
+  SideWindow(const QString& name, const QString& title, const char* closeAct, Perform perform,
+             QWidget* parent);
+
+  void reject() override;
+
+ protected:
+  void Do(const Act& act) { perform_(act); }
+  void SetOpen(bool open);
+
+ private:
+  const char* closeAct_;
+  Perform perform_;
+};
+
+/// The game master's list of notes.
+class GmWindow : public SideWindow {
+  Q_OBJECT
+
+ public:
+  GmWindow(const Perform& perform, QWidget* parent);
+  void Paint(const MainForm& form);
+
+ private:
+  QTreeWidget* lines_;
+};
+
+/// What the log file holds.
+class LogWindow : public SideWindow {
+  Q_OBJECT
+
+ public:
+  LogWindow(const Perform& perform, QWidget* parent);
+  void Paint(const MainForm& form);
+
+ private:
+  QTreeWidget* lines_;
+  QLabel* count_;
+};
+
+/// The names of the reference file with a filter, and the entry of the one chosen.
+class ReferenceWindow : public SideWindow {
+  Q_OBJECT
+
+ public:
+  ReferenceWindow(const Perform& perform, QWidget* parent);
+  void Paint(const MainForm& form);
+
+ private:
+  QLineEdit* filter_;
+  QTreeWidget* names_;
+  QPlainTextEdit* entry_;
+};
+
+}  // namespace ng
