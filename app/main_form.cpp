@@ -252,6 +252,20 @@ void MainForm::ChooseSkill(SkillUse use) {
   skillTests.ChooseSkill(use, sheet.lstActive[static_cast<std::size_t>(lstActiveIndex)]);
 }
 
+void MainForm::ShowReference(const std::vector<CarriedLine>& list, int index) {
+  if (index < 0 || index >= static_cast<int>(list.size())) {
+    statusMessage = "Mark a line of the list first";
+    return;
+  }
+  const std::string item = CleanItemText(list[static_cast<std::size_t>(index)].text);
+  const std::string name(Trimmed(Piece(item, '\t', 0)));
+  // Weapons may stand there without their class code.
+  const std::string plain(Trimmed(std::string_view(name).substr(0, name.rfind('('))));
+  if (!reference.ShowEntry(name) && !reference.ShowEntry(plain)) {
+    statusMessage = "The reference file says nothing about " + name;
+  }
+}
+
 void MainForm::ShowRoller() {
   if (environment_.settings.DisableNGDR) {
     statusMessage = "The dice roller is switched off in the options";
@@ -361,6 +375,7 @@ void MainForm::XFerPC(Slot slot) {
   if (slot != fight.CurrentPCpointer) {
     lstActiveIndex = -1;
     lstWeaponIndex = -1;
+    lstGearIndex = -1;
   }
   fight.CurrentPCpointer = slot;
   header.Show(record);

@@ -106,6 +106,7 @@ class MainForm : private SequencerHost {
   /// The lines marked in the lists, -1 for none.
   int lstActiveIndex = -1;
   int lstWeaponIndex = -1;
+  int lstGearIndex = -1;
   std::string txtNotes;
   std::string txtNoteFileName;
   bool statusBarVisible = true;
@@ -188,6 +189,10 @@ class MainForm : private SequencerHost {
   void ChooseSkill(SkillUse use);
   void lstActive_Select(int index) { lstActiveIndex = index; }
   void lstWeapon_Select(int index) { lstWeaponIndex = index; }
+  void lstGear_Select(int index) { lstGearIndex = index; }
+  /// Looks the marked weapon or gear up in the reference file.
+  void cmdInfoWeapon() { ShowReference(sheet.lstWeapon, lstWeaponIndex); }
+  void cmdInfoGear() { ShowReference(sheet.lstGear, lstGearIndex); }
   /// Shows the dice roller; says in the status bar when the options have switched it off.
   void ShowRoller();
   void lstArmor_Check(int index);
@@ -230,6 +235,7 @@ class MainForm : private SequencerHost {
   /// Shows what an action may have changed of the displayed combatant.
   void ShowHeader() { header.Show(fight.Players[fight.CurrentPCpointer]); }
   void UpdateWeapons();
+  void ShowReference(const std::vector<CarriedLine>& list, int index);
   bool WieldsInMelee(Weapon weapon) const;
   void ToggleCarried(std::vector<CarriedLine> CharacterEntry::*list, int index);
 

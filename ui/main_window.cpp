@@ -181,7 +181,8 @@ void MainWindow::PaintCounts() {
   const int count = form.GridX.RowCount();
   ShowText(*combatants_, count == 1 ? tr("1 combatant") : tr("%1 combatants").arg(count));
   ShowText(*combatTurn_, tr("Combat turn %1").arg(form.fight.RoundCount.Value()));
-  ShowText(*pass_, tr("Pass %1").arg(form.fight.PhaseCnt.Value()));
+  const int pass = form.fight.PhaseCnt.Value();
+  ShowText(*pass_, pass > Sequencer::kLastPass ? tr("Turn over") : tr("Pass %1").arg(pass));
   const bool off = static_cast<bool>(session_.environment.settings.DisableNGDR);
   ShowText(*roller_, off ? tr("Roller off") : tr("Roller on"));
 }
