@@ -129,11 +129,23 @@ void MainForm::mnuViewLog() {
 
 void MainForm::cmdAddNote() { gmLog.Add(environment_.prompts.Input(" Enter your note")); }
 
-void MainForm::mnuTReroll() { sequencer.Reroll(environment_.settings.CloneInit); }
+// What stands on the sheet goes into the record before a command shows the sheet anew.
+void MainForm::mnuTReroll() {
+  SyncSheet();
+  sequencer.Reroll(environment_.settings.CloneInit);
+}
 
-void MainForm::mnuTReset() { sequencer.Reset(); }
+void MainForm::mnuTReset() {
+  SyncSheet();
+  sequencer.Reset();
+}
 
-void MainForm::mnuTNext() { sequencer.Next(); }
+void MainForm::mnuTNext() {
+  SyncSheet();
+  sequencer.Next();
+  // Where the step displayed nobody, the boxes still stand and firing goes on from them.
+  firing.TakeRoundCounters();
+}
 
 void MainForm::mnuTPrev() { sequencer.Previous(); }
 
@@ -178,12 +190,16 @@ void MainForm::GridX_Cell(int row, int column) { GridX.SetCurrent(row, column); 
 
 void MainForm::GridX_KeyPress(int code) {
   if (!GridX.TypeCharacter(code)) return;
-  if (GridX.CurrentColumn() != InitiativeGrid::kRollColumn) return;
   const Slot slot = fight.InitOrder[GridX.CurrentRow()];
   if (slot == 0) return;
-  const std::string& text = GridX.RowAt(GridX.CurrentRow()).text[InitiativeGrid::kRollColumn];
-  fight.Players[slot].RRSLT = LenientInteger(text);
-  if (slot == fight.CurrentPCpointer) header.txtRRSLT = PlainText(fight.Players[slot].RRSLT);
+  const auto& text = GridX.RowAt(GridX.CurrentRow()).text;
+  PlayerRecord& record = fight.Players[slot];
+  if (GridX.CurrentColumn() == InitiativeGrid::kTextColumn) {
+    record.CondCode = text[InitiativeGrid::kTextColumn];
+    return;
+  }
+  record.RRSLT = LenientInteger(text[InitiativeGrid::kRollColumn]);
+  if (slot == fight.CurrentPCpointer) header.txtRRSLT = PlainText(record.RRSLT);
 }
 
 void MainForm::optInitMode(int option) {
@@ -212,12 +228,15 @@ void MainForm::txtReac_Change(int index, const std::string& text) {
 
 void MainForm::Box_Change(std::string& box, const std::string& text) {
   if (!Displaying()) return;
+  // A number beyond the range ends here and leaves the box as it was.
+  LenientInteger(text);
   box = text;
   SyncSheet();
 }
 
 void MainForm::WeaponBox_Change(std::string& box, const std::string& text) {
   if (!Displaying()) return;
+  LenientInteger(text);
   box = text;
   firing.TakeRoundCounters();
   UpdateWeapons();
@@ -293,13 +312,17 @@ void MainForm::cmdDamZero(Track track) {
 }
 
 void MainForm::ChangePool(std::string PoolPanel::*box, std::string (*change)(const std::string&)) {
-  if (Displaying()) pools.*box = change(pools.*box);
+  if (!Displaying()) return;
+  const std::string text = change(pools.*box);
+  LenientInteger(text);
+  pools.*box = text;
 }
 
 void MainForm::ChangeCombatPool(std::string (*change)(const std::string&)) {
   if (!Displaying()) return;
-  pools.txtCP = change(pools.txtCP);
-  Displayed().CP = LenientInteger(pools.txtCP);
+  const std::string text = change(pools.txtCP);
+  Displayed().CP = LenientInteger(text);
+  pools.txtCP = text;
 }
 
 void MainForm::cmdSDplus() {
@@ -320,7 +343,7 @@ void MainForm::optRangeSel(Weapon weapon, int range) {
   if (!Displaying()) return;
   (weapon == Weapon::Primary ? Displayed().RangeSelPrim : Displayed().RangeSelSec) = range;
   weapons.optRangeSel[static_cast<std::size_t>(weapon)] = range;
-  ngdr.optRangeSel_Click();
+  ngdr.optRangeSel_Click(weapon);
 }
 
 void MainForm::lstArmor_Check(int index) { ToggleCarried(&CharacterEntry::armour, index); }
@@ -384,14 +407,15 @@ void MainForm::XFerPC(Slot slot) {
   pools.Show(record);
   sheet.ShowCharacter(characters.Of(record));
   sheet.ShowArmourOf(record);
-  firing.TakeRoundCounters();
-  firing.UpdateWeaponModifiers();
   ngdr.Body = AugmentedValue(sheet.lblAttr[static_cast<std::size_t>(Attribute::Body)]);
   skillTests.lblSkill = record.Skill;
   txtNotes = record.Notes;
   txtNoteFileName = record.NoteFileName;
   actions.delayChecked = static_cast<bool>(record.Delay);
   actions.inactiveChecked = static_cast<bool>(record.inactive);
+  // Numbers out of range can end these, so that all else is shown by now.
+  firing.TakeRoundCounters();
+  firing.UpdateWeaponModifiers();
 }
 
 void MainForm::RecalcArmor() {
@@ -425,8 +449,13 @@ std::string MainForm::TurnBadge() const {
 }
 
 std::string MainForm::RoundsLeft(Weapon weapon) const {
-  const bool magazine = !weapons.lblAmmo[static_cast<std::size_t>(weapon)].empty();
-  return magazine ? PlainText(firing.AmmoLeft(weapon)) : "";
+  if (weapons.lblAmmo[static_cast<std::size_t>(weapon)].empty()) return {};
+  try {
+    return PlainText(firing.AmmoLeft(weapon));
+  } catch (const RuntimeError&) {
+    // The window is painted outside every command: a number that cannot be counted is not shown.
+    return {};
+  }
 }
 
 int MainForm::ShownRow() const { return fight.FindInOrder(fight.CurrentPCpointer).Value(); }

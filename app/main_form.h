@@ -156,7 +156,8 @@ class MainForm : private SequencerHost {
   void GridX_Click(int row);
   /// Moves the current cell without displaying anybody.
   void GridX_Cell(int row, int column);
-  /// Edits the current cell. The Roll column goes into `RRSLT` at once.
+  /// Edits the current cell. The Roll column goes into `RRSLT` at once, the
+  /// third one stands until the next change of damage.
   void GridX_KeyPress(int code);
 
   // The sheet. With nobody displayed these do nothing.

@@ -124,6 +124,7 @@ void Firing::Disarm(Weapon weapon) {
   SetWeapon(Displayed(), weapon, {});
   panel_.ShowWeapon(Displayed(), weapon);
   UpdateWeaponModifiers();
+  panel_.Sync(Displayed());
 }
 
 void Firing::Ready(Weapon weapon, std::string_view line, const RangeTable& ranges) {
@@ -140,8 +141,8 @@ void Firing::Ready(Weapon weapon, std::string_view line, const RangeTable& range
   SetWeapon(Displayed(), weapon, figures);
   panel_.ShowWeapon(Displayed(), weapon);
   panel_.txtShots[IndexOf(weapon)] = "0";
-  panel_.Sync(Displayed());
   UpdateWeaponModifiers();
+  panel_.Sync(Displayed());
 }
 
 Integer Firing::AmmoLeft(Weapon weapon) const {

@@ -98,7 +98,11 @@ BoneLace ReadCyberware(const ProfileFile& file, ImportedCharacter& character) {
       character.record.natLowLight = false;
     }
     if (Contains(line, "Thermographic")) character.record.augThermographic = true;
-    if (Contains(line, "Bone Lace")) lace = BoneLaceOf(line);
+    if (Contains(line, "Bone Lace")) {
+      const BoneLace named = BoneLaceOf(line);
+      // A line that names no material says nothing about it.
+      lace = {true, named.material == 0 ? lace.material : named.material};
+    }
     AddLines(character.entry.augments, "CYB: ", line);
   });
   return lace;

@@ -10,7 +10,7 @@ namespace ng {
 namespace {
 
 constexpr std::size_t kArmourNameWidth = 37;
-/// The "X:" of a worn item and its blank come off when the line is shown.
+/// The "X:" of a worn item comes off when the line is shown.
 constexpr std::size_t kWornArmourNameWidth = 40;
 
 constexpr int kArmour = 8;
@@ -60,6 +60,13 @@ std::string JoinedWithSlash(std::initializer_list<std::string_view> texts) {
   return joined;
 }
 
+/// The concealability, and what stands beside it behind a "/".
+std::string WithBeside(std::string_view concealability, std::string_view beside) {
+  std::string text(concealability);
+  if (!beside.empty()) text.append("/").append(beside);
+  return text;
+}
+
 std::string JoinedWithTab(std::initializer_list<std::string_view> columns) {
   std::string joined;
   bool first = true;
@@ -75,7 +82,7 @@ std::string WeaponLine(const GearTable& table, const Item& item, const WeaponLay
   const auto field = [&](const char* column) { return FieldNamed(table, item, column); };
   return JoinedWithTab(
       {item.name, field(layout.damage),
-       JoinedWithSlash({field(layout.concealability), field(layout.besideConcealability)}),
+       WithBeside(field(layout.concealability), field(layout.besideConcealability)),
        JoinedWithSlash(
            {field(layout.figures[0]), field(layout.figures[1]), field(layout.figures[2])}),
        field(layout.ammunition), field(layout.weight)});

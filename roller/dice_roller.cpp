@@ -187,7 +187,9 @@ void DiceRoller::cmdZeroAll() {
   for (const int box : BoxesOf(tabTest)) ClearBox(box);
 }
 
-void DiceRoller::optRangeSel_Click() {
+void DiceRoller::optRangeSel_Click(Weapon weapon) {
+  // The other weapon's bracket is no concern of this test.
+  if (Displayed().SkillWeapType != static_cast<int>(weapon) + 1) return;
   const std::string before = BaseNumber();
   SelectRange();
   if (BaseNumber() != before) UpdateTargetNumber();

@@ -122,7 +122,7 @@ class DiceRoller {
 
   /// The main window's choice of a range bracket; the base number of the weapon that attacked last
   /// follows it.
-  void optRangeSel_Click();
+  void optRangeSel_Click(Weapon weapon);
 
   // What the window shows beside the boxes.
   /// The base number of the open page.

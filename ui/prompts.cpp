@@ -71,6 +71,7 @@ void QtPrompts::Message(std::string_view text) {
   box.setTextFormat(Qt::PlainText);
   QString shown = ToQString(text);
   shown.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+  shown.replace(QLatin1Char('\r'), QLatin1Char('\n'));
   box.setText(shown);
   box.button(QMessageBox::Ok)->setIcon({});
   // The box is a grid that takes its width from what stands in it.

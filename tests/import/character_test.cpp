@@ -129,7 +129,8 @@ TEST(BoneLace, TheLastMaterialOfTheOrderWinsAndTheBonusesCross) {
 
   Imported one(
       "[Attributes]\nQuickness=1|0|0|0\ne_armor_impactArmorMod=1\ne_armor_ballisticArmorMod=2\n"
-      "[Cyberware]\nCyber0=Bone_Lace,_Titanium\n[Gear]\nGear0=X:Coat~8|8|5|4|3\n");
+      "[Cyberware]\nCyber0=Bone_Lace,_Titanium\nCyber1=Bone_Lace_upkeep\n[Gear]\nGear0=X:Coat~8|8|"
+      "5|4|3\n");
   EXPECT_EQ(one.Entry().armour[1].text, Padded(" Cyber:Bone Lace", 37) + "\t-\t1\t2\t15");
   EXPECT_EQ(one.Record().ArmorBAL.Value(), 6);
   EXPECT_EQ(one.Record().ArmorIMP.Value(), 6);

@@ -117,13 +117,13 @@ TEST_F(Roller, EachPageHasItsBoxesItsBaseAndItsSuccesses) {
 TEST_F(Roller, TheTargetNumberFollowsTheRangeAndWhatChanges) {
   for (const auto& [range, number] : {std::pair{0, "4"}, {1, "5"}, {2, "6"}, {3, "9"}}) {
     vex.RangeSelPrim = range;
-    roller.optRangeSel_Click();
+    roller.optRangeSel_Click(Weapon::Primary);
     EXPECT_EQ(roller.txtTargetNum, number);
   }
   // A number typed over it stands while nothing that it is made of changes.
   roller.txtTargetNum_Change("11");
   roller.URCsecondary(5);
-  roller.optRangeSel_Click();
+  roller.optRangeSel_Click(Weapon::Primary);
   EXPECT_EQ(roller.txtTargetNum, "11");
   roller.URCprimary(-1);
   roller.txtRangeTargetNumber_Change("4.5");

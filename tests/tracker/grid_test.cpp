@@ -75,7 +75,7 @@ TEST(Grid, TypingEditsTheCellAndTheRollAtOnce) {
   program.Do("GridX_PM", 2);
   type("zz");
   EXPECT_EQ(cell(2, 2), "zz");
-  EXPECT_EQ(program.fight.Players[2].CondCode, "");
+  EXPECT_EQ(program.fight.Players[2].CondCode, "zz");
   program.Do("GridX_Name", 1);
   type("Q");
   EXPECT_EQ(cell(1, 0), "Ash");

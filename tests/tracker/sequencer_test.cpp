@@ -235,6 +235,26 @@ TEST(MainForm, WithNobodyDisplayedNothingChanges) {
   EXPECT_TRUE(program.prompts.log.empty());
 }
 
+TEST(MainForm, ANumberOutOfRangeIsRefusedAndNothingIsBlocked) {
+  TestProgram program;
+  PlayerRecord& ash = program.Add("Ash", 5);
+  ash.PrimWeapStatAmmo = "99999(c)";
+  program.Do("mnuTReset");
+  program.Do("mnuTNext");
+  program.Do("cmdKPplus");
+  for (const char* box : {"txtSP", "txtCP", "txtPainResistance", "txtTBTT", "txtShots", "txtRC"}) {
+    program.prompts.TakeLog();
+    program.Do(box, 0, "99999");
+    EXPECT_EQ(program.prompts.log, Strings{"message \"Overflow\""}) << box;
+  }
+  program.prompts.TakeLog();
+  program.Do("mnuTReset");
+  program.Do("mnuTNext");
+  EXPECT_TRUE(program.prompts.log.empty());
+  EXPECT_EQ(ash.KP.Value(), 1);  // the button's die was not lost
+  EXPECT_EQ(program.main.RoundsLeft(Weapon::Primary), "");
+}
+
 TEST(MainForm, EditsGoIntoTheRecordOfTheDisplayed) {
   TestProgram program;
   PlayerRecord& ash = program.Add("Ash", 5);
