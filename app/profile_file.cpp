@@ -1,5 +1,6 @@
 #include "app/profile_file.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <utility>
@@ -44,15 +45,23 @@ ProfileFile::ProfileFile(std::string text) : text_(std::move(text)) {
     if (equals == std::string_view::npos || sections_.empty()) continue;
     const std::string_view key = Trimmed(line.substr(0, equals));
     const std::string_view value = WithoutQuotes(Trimmed(line.substr(equals + 1)));
-    entries_.push_back({HashIgnoringCase(key), key, value.substr(0, kLongestValue)});
+    entries_.push_back({key, value.substr(0, kLongestValue)});
+    keyHashes_.push_back(HashIgnoringCase(key));
     sections_.back().endEntry = entries_.size();
   }
 }
 
 const ProfileFile::Section* ProfileFile::FindSection(std::string_view name) const {
+  if (lastSection_ < sections_.size() && sections_[lastSection_].name == name) {
+    return &sections_[lastSection_];
+  }
   const std::uint32_t hash = HashIgnoringCase(name);
-  for (const Section& section : sections_) {
-    if (section.nameHash == hash && EqualIgnoringCase(section.name, name)) return &section;
+  for (std::size_t i = 0; i < sections_.size(); ++i) {
+    const Section& section = sections_[i];
+    if (section.nameHash == hash && EqualIgnoringCase(section.name, name)) {
+      lastSection_ = i;
+      return &section;
+    }
   }
   return nullptr;
 }
@@ -61,9 +70,12 @@ std::string_view ProfileFile::Value(std::string_view section, std::string_view k
   const Section* found = FindSection(section);
   if (found == nullptr) return {};
   const std::uint32_t hash = HashIgnoringCase(key);
-  for (std::size_t i = found->firstEntry; i < found->endEntry; ++i) {
-    const Entry& entry = entries_[i];
-    if (entry.keyHash == hash && EqualIgnoringCase(entry.key, key)) return entry.value;
+  const auto end = keyHashes_.begin() + static_cast<std::ptrdiff_t>(found->endEntry);
+  auto hit = keyHashes_.begin() + static_cast<std::ptrdiff_t>(found->firstEntry);
+  while ((hit = std::find(hit, end, hash)) != end) {
+    const Entry& entry = entries_[static_cast<std::size_t>(hit - keyHashes_.begin())];
+    if (EqualIgnoringCase(entry.key, key)) return entry.value;
+    ++hit;
   }
   return {};
 }

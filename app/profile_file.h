@@ -40,7 +40,6 @@ class ProfileFile {
     std::size_t endEntry = 0;
   };
   struct Entry {
-    std::uint32_t keyHash = 0;
     std::string_view key;
     std::string_view value;
   };
@@ -50,6 +49,10 @@ class ProfileFile {
   std::string text_;
   std::vector<Section> sections_;
   std::vector<Entry> entries_;
+  /// Of the entries' keys, apart from them so that a search runs through few bytes.
+  std::vector<std::uint32_t> keyHashes_;
+  /// The section asked for last: readers go through a file section by section.
+  mutable std::size_t lastSection_ = 0;
 };
 
 /// Where the program finds what stands beside it.

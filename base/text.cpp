@@ -4,14 +4,21 @@
 
 namespace ng {
 
+namespace {
+
+bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+
+}  // namespace
+
 std::string_view TrimmedLeft(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(" \t");
-  return first == std::string_view::npos ? std::string_view{} : text.substr(first);
+  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
+  return text;
 }
 
 std::string_view Trimmed(std::string_view text) {
   text = TrimmedLeft(text);
-  return text.substr(0, text.find_last_not_of(" \t") + 1);
+  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+  return text;
 }
 
 char AsciiLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
@@ -80,14 +87,11 @@ std::string Padded(std::string_view text, std::size_t width) {
 
 bool LineReader::Next(std::string_view& line) {
   if (rest_.empty()) return false;
-  const std::size_t end = rest_.find_first_of("\r\n");
+  std::size_t end = 0;
+  while (end < rest_.size() && rest_[end] != '\r' && rest_[end] != '\n') ++end;
   line = rest_.substr(0, end);
-  if (end == std::string_view::npos) {
-    rest_ = {};
-  } else {
-    const bool pair = rest_.substr(end, 2) == "\r\n";
-    rest_.remove_prefix(end + (pair ? 2 : 1));
-  }
+  const bool pair = rest_.substr(end, 2) == "\r\n";
+  rest_.remove_prefix(std::min(end + (pair ? 2 : 1), rest_.size()));
   return true;
 }
 

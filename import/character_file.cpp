@@ -115,13 +115,11 @@ void ReadBoneLaceArmour(const ProfileFile& file, BoneLace lace, CharacterEntry& 
   entry.armour.push_back({BoneLaceLine(lace, impact, ballistic), false});
 }
 
-/// A line that holds "X:" is worn or carried and is shown without its first two characters; bone
-/// lace cannot be taken off.
+/// A line that holds "X:" is worn or carried and is shown without its first two characters.
 void MarkCarried(std::vector<CarriedLine>& lines) {
   for (CarriedLine& line : lines) {
     line.carried = Contains(line.text, "X:");
     if (line.carried) line.text.erase(0, 2);
-    if (IsBoneLace(line)) line.carried = true;
   }
 }
 
@@ -176,6 +174,8 @@ void ParseCharacterFile(const ProfileFile& file, const GearTable& gearTable,
   MarkCarried(entry.weapons);
   MarkCarried(entry.armour);
   MarkCarried(entry.gear);
+  // Bone lace cannot be taken off.
+  for (CarriedLine& line : entry.armour) line.carried = line.carried || IsBoneLace(line);
 }
 
 }  // namespace ng

@@ -16,12 +16,27 @@ constexpr std::size_t kWornArmourNameWidth = 40;
 constexpr int kArmour = 8;
 constexpr int kIgnored = 26;
 
-/// An item taken apart.
+/// An item taken apart. Of its fields only as many are kept as a category can have columns.
 struct Item {
   std::string_view name;
-  std::string_view fields;
+  std::array<std::string_view, 31> fields;
   Integer category;
 };
+
+Item TakeApart(std::string_view text) {
+  const std::size_t tab = text.find('\t');
+  Item item{text.substr(0, tab), {}, 0};
+  if (tab == std::string_view::npos) return item;
+  std::string_view rest = text.substr(tab + 1);
+  for (std::string_view& field : item.fields) {
+    const std::size_t end = rest.find('|');
+    field = rest.substr(0, end);
+    if (end == std::string_view::npos) break;
+    rest.remove_prefix(end + 1);
+  }
+  item.category = LenientInteger(item.fields[0]);
+  return item;
+}
 
 /// Which columns of a category's layout make up a weapon line; null where there is none.
 struct WeaponLayout {
@@ -46,7 +61,8 @@ constexpr std::array<WeaponLayout, 6> kWeaponLayouts = {{
 
 std::string_view FieldNamed(const GearTable& table, const Item& item, const char* column) {
   if (column == nullptr) return {};
-  return GearField(item.fields, GearColumnIndex(table, item.category, column));
+  const int index = GearColumnIndex(table, item.category, column);
+  return index < 0 ? std::string_view{} : item.fields[static_cast<std::size_t>(index)];
 }
 
 /// The texts that are not empty, joined with "/".
@@ -69,6 +85,9 @@ std::string WithBeside(std::string_view concealability, std::string_view beside)
 
 std::string JoinedWithTab(std::initializer_list<std::string_view> columns) {
   std::string joined;
+  std::size_t length = columns.size();
+  for (const std::string_view column : columns) length += column.size();
+  joined.reserve(length);
   bool first = true;
   for (const std::string_view column : columns) {
     if (!first) joined += '\t';
@@ -122,11 +141,7 @@ std::string UnarmedLine() {
 }
 
 void AddItem(const GearTable& table, std::string_view text, CharacterEntry& entry) {
-  const std::size_t tab = text.find('\t');
-  Item item{text.substr(0, tab), {}, 0};
-  if (tab != std::string_view::npos) item.fields = text.substr(tab + 1);
-  item.category = LenientInteger(GearField(item.fields, 0));
-
+  const Item item = TakeApart(text);
   if (item.category == kIgnored) return;
   if (item.category == kArmour) {
     entry.armour.push_back({ArmourLine(table, item, Contains(text, "X:")), false});
