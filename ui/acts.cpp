@@ -1,11 +1,14 @@
 #include "ui/acts.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTreeWidget>
+#include <utility>
 
 #include "app/commands.h"
 #include "ui/text.h"
@@ -13,27 +16,13 @@
 namespace ng {
 namespace {
 
-/// The act's control for a widget: the command's name, empty when no command is named after it.
-WidgetName CommandOf(const QWidget& widget, const char* event = "") {
-  WidgetName name = ParseWidgetName(widget.objectName());
-  if (FindCommand(name.control + event) != nullptr) {
-    name.control += event;
-    return name;
-  }
-  if (name.control.ends_with('2')) {
-    name.control.pop_back();
-    if (FindCommand(name.control + event) != nullptr) {
-      name.control += event;
-      return name;
-    }
-  }
-  return {};
-}
-
 class Connector {
  public:
-  Connector(QObject& owner, const bool& painting, Perform perform)
-      : owner_(owner), painting_(painting), perform_(std::move(perform)) {}
+  Connector(QObject& owner, const bool& painting, Perform perform, std::string prefix)
+      : owner_(owner),
+        painting_(painting),
+        perform_(std::move(perform)),
+        prefix_(std::move(prefix)) {}
 
   void Connect(QWidget& widget) const {
     if (auto* edit = qobject_cast<QLineEdit*>(&widget)) return ConnectLine(*edit);
@@ -41,9 +30,24 @@ class Connector {
     if (auto* button = qobject_cast<QAbstractButton*>(&widget)) return ConnectButton(*button);
     if (auto* tree = qobject_cast<QTreeWidget*>(&widget)) return ConnectTree(*tree);
     if (auto* tabs = qobject_cast<QTabWidget*>(&widget)) return ConnectTabs(*tabs);
+    if (auto* tabs = qobject_cast<QTabBar*>(&widget)) return ConnectTabs(*tabs);
+    if (auto* combo = qobject_cast<QComboBox*>(&widget)) return ConnectCombo(*combo);
   }
 
  private:
+  /// The act's control for a widget: the command's name, empty when no command is named after it.
+  WidgetName CommandOf(const QWidget& widget, const char* event = "") const {
+    WidgetName name = ParseWidgetName(widget.objectName());
+    if (const std::string own = prefix_ + name.control + event; FindCommand(own) != nullptr) {
+      name.control = own;
+      return name;
+    }
+    if (!name.control.ends_with('2')) return {};
+    name.control.pop_back();
+    name.control = prefix_ + name.control + event;
+    return FindCommand(name.control) == nullptr ? WidgetName() : name;
+  }
+
   void ConnectLine(QLineEdit& edit) const {
     const WidgetName name = CommandOf(edit);
     if (name.control.empty() || edit.isReadOnly()) return;
@@ -106,19 +110,30 @@ class Connector {
     item.setCheckState(0, item.checkState(0) == Qt::Checked ? Qt::Unchecked : Qt::Checked);
   }
 
-  void ConnectTabs(QTabWidget& tabs) const {
+  template <typename Tabs>
+  void ConnectTabs(Tabs& tabs) const {
     const WidgetName name = CommandOf(tabs);
     if (name.control.empty()) return;
-    QObject::connect(&tabs, &QTabWidget::currentChanged, &owner_,
+    QObject::connect(&tabs, &Tabs::currentChanged, &owner_,
                      [name, &painting = painting_, perform = perform_](int page) {
                        if (painting) return;
                        perform({name.control, page, {}});
                      });
   }
 
+  void ConnectCombo(QComboBox& combo) const {
+    const WidgetName name = CommandOf(combo);
+    if (name.control.empty()) return;
+    // What the user chooses, the entry that is chosen already included.
+    QObject::connect(&combo, &QComboBox::activated, &owner_, [name, perform = perform_](int entry) {
+      perform({name.control, entry, {}});
+    });
+  }
+
   QObject& owner_;
   const bool& painting_;
   Perform perform_;
+  std::string prefix_;
 };
 
 }  // namespace
@@ -131,8 +146,9 @@ WidgetName ParseWidgetName(const QString& objectName) {
   return {objectName.left(line).toStdString(), index};
 }
 
-void ConnectActs(QWidget& window, QObject& owner, const bool& painting, const Perform& perform) {
-  const Connector connector(owner, painting, perform);
+void ConnectActs(QWidget& window, QObject& owner, const bool& painting, const Perform& perform,
+                 const std::string& prefix) {
+  const Connector connector(owner, painting, perform, prefix);
   for (QWidget* widget : window.findChildren<QWidget*>()) {
     if (!widget->objectName().isEmpty()) connector.Connect(*widget);
   }

@@ -2,14 +2,18 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QStyle>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTreeWidget>
 #include <utility>
 
+#include "app/commands.h"
+#include "base/number_text.h"
 #include "combat/weapons.h"
 #include "ui/damage_bar.h"
 #include "ui/initiative_grid_view.h"
@@ -40,12 +44,42 @@ void ShowNote(QPlainTextEdit& edit, QString text) {
   if (edit.toPlainText() != text) edit.setPlainText(text);
 }
 
+/// The style sheet makes a modifier stand out that is not zero.
+void MarkNonZero(QLineEdit& box) {
+  if (!box.objectName().startsWith(QLatin1String("txtRVar_"))) return;
+  const bool counts = LeadingNumber(FromQString(box.text())) != 0;
+  if (box.property("nonZero").toBool() == counts) return;
+  box.setProperty("nonZero", counts);
+  box.style()->unpolish(&box);
+  box.style()->polish(&box);
+}
+
+void ShowEntries(QComboBox& combo, const std::vector<std::string>& lines) {
+  combo.clear();
+  for (const std::string& line : lines) combo.addItem(ToQString(line));
+}
+
+/// Returns false for a widget that has no entries to choose from.
+bool ShowIndex(QObject* widget, int chosen) {
+  if (auto* tabs = qobject_cast<QTabWidget*>(widget)) {
+    tabs->setCurrentIndex(chosen);
+  } else if (auto* strip = qobject_cast<QTabBar*>(widget)) {
+    strip->setCurrentIndex(chosen);
+  } else if (auto* combo = qobject_cast<QComboBox*>(widget)) {
+    combo->setCurrentIndex(chosen);
+  } else {
+    return false;
+  }
+  return true;
+}
+
 void ShowText(QObject* widget, const QString& text) {
   if (auto* label = qobject_cast<QLabel*>(widget)) {
     ShowLabel(*label, text);
   } else if (auto* line = qobject_cast<QLineEdit*>(widget)) {
     // Setting an equal text would move the cursor.
     if (line->text() != text) line->setText(text);
+    MarkNonZero(*line);
   } else if (auto* note = qobject_cast<QPlainTextEdit*>(widget)) {
     ShowNote(*note, text);
   }
@@ -53,10 +87,11 @@ void ShowText(QObject* widget, const QString& text) {
 
 }  // namespace
 
-Binder::Binder(QWidget& window, const Perform& perform) : window_(window) {
+Binder::Binder(QWidget& window, const Perform& perform, std::string prefix)
+    : window_(window), prefix_(std::move(prefix)) {
   // Names come from files and may look like mark-up.
   for (QLabel* label : window.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
-  ConnectActs(window, *this, painting_, perform);
+  ConnectActs(window, *this, painting_, perform, prefix_);
 }
 
 void Binder::Paint(const std::function<void(ControlVisitor&)>& walk) {
@@ -80,9 +115,11 @@ std::vector<QObject*> Binder::Named(const ControlName& control) const {
   const QString element =
       control.index == ControlName::kSingle ? QString() : QStringLiteral("_%1").arg(control.index);
   std::vector<QObject*> found;
-  for (const QString& copy : {name + element, name + QLatin1Char('2') + element}) {
-    for (QObject* object : byName_.values(copy)) found.push_back(object);
-  }
+  for (QObject* object : byName_.values(name + element)) found.push_back(object);
+  // The second list of a pair may be named as a copy is, and yet be a control of its own.
+  const bool own = FindCommand(prefix_ + control.name + '2') != nullptr;
+  if (own) return found;
+  for (QObject* object : byName_.values(name + QLatin1Char('2') + element)) found.push_back(object);
   return found;
 }
 
@@ -119,6 +156,8 @@ void Binder::Check(ControlName control, bool checked) {
       button->setChecked(checked);
     } else if (auto* action = qobject_cast<QAction*>(widget)) {
       action->setChecked(checked);
+    } else if (auto* label = qobject_cast<QLabel*>(widget)) {
+      if (label->isHidden() == checked) label->setVisible(checked);
     }
   }
 }
@@ -126,10 +165,7 @@ void Binder::Check(ControlName control, bool checked) {
 void Binder::Choice(ControlName control, int chosen) {
   const Place& place = NextPlace(control, &Binder::Options);
   if (place.widgets.empty()) return;
-  if (auto* tabs = qobject_cast<QTabWidget*>(place.widgets.front())) {
-    tabs->setCurrentIndex(chosen);
-    return;
-  }
+  if (ShowIndex(place.widgets.front(), chosen)) return;
   if (chosen < 0 || static_cast<std::size_t>(chosen) >= place.widgets.size()) return;
   QObject* option = place.widgets[static_cast<std::size_t>(chosen)];
   if (auto* button = qobject_cast<QAbstractButton*>(option)) button->setChecked(true);
@@ -148,6 +184,7 @@ void Binder::List(ControlName control, const std::vector<std::string>& lines) {
   if (place.lines == lines) return;
   for (QObject* widget : place.widgets) {
     if (auto* tree = qobject_cast<QTreeWidget*>(widget)) ShowLines(*tree, lines);
+    if (auto* combo = qobject_cast<QComboBox*>(widget)) ShowEntries(*combo, lines);
   }
   place.lines = lines;
 }

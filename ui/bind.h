@@ -20,8 +20,9 @@ namespace ng {
 /// "2" behind the name. A control without a widget is passed over.
 class Binder : public QObject, private ControlVisitor {
  public:
-  /// The window must hold all its widgets already.
-  Binder(QWidget& window, const Perform& perform);
+  /// The window must hold all its widgets already. `prefix` stands before the widgets' names in the
+  /// acts.
+  Binder(QWidget& window, const Perform& perform, std::string prefix = {});
 
   /// Paints what the walk says. All walks must go through the same controls in the same order: the
   /// first one looks the widgets up by their names, the later ones know them by their place.
@@ -51,6 +52,7 @@ class Binder : public QObject, private ControlVisitor {
   void IndexNames();
 
   QWidget& window_;
+  std::string prefix_;
   /// Filled for the first walk only.
   QMultiHash<QString, QObject*> byName_;
   std::vector<Place> places_;

@@ -11,6 +11,14 @@
 namespace ng {
 namespace {
 
+/// Keeps the room for any weight, so that the lists beside it stay as wide as they are.
+void HoldWeight(QLabel& weight) {
+  weight.ensurePolished();
+  weight.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  weight.setMinimumWidth(
+      weight.fontMetrics().horizontalAdvance(QStringLiteral("Total Weight: 0000.00")));
+}
+
 struct ButtonWidths {
   int least;
   int full;
@@ -92,6 +100,7 @@ QHBoxLayout* MakeArmourFigures(QWidget* parent) {
   row->addStretch();
   QLabel* weight = MakeValue("lblWeight2", parent);
   weight->setToolTip("Weight of everything worn and carried");
+  HoldWeight(*weight);
   row->addWidget(weight);
   return row;
 }
@@ -123,6 +132,7 @@ QGroupBox* MakeGear(QWidget* parent) {
   QLabel* weight = MakeValue("lblWeight", group);
   weight->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   weight->setToolTip("Weight of everything worn and carried");
+  HoldWeight(*weight);
   QHBoxLayout* row = MakeRow(6);
   row->addWidget(MakeWideButton(
       {"cmdInfoGear", "Info on the marked gear", "Show what the reference says of the marked gear"},

@@ -36,7 +36,7 @@ class RealWindows : public StartupWindows {
 
   void UnloadSplash() override { splash_.reset(); }
 
-  void LoadRoller() override {}
+  void LoadRoller() override { main_->LoadRoller(); }
 
   void ShowMain() override { main_->show(); }
 

@@ -12,6 +12,9 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTreeWidget>
+#include <algorithm>
+#include <iterator>
+#include <string_view>
 
 #include "app/controls.h"
 #include "ui/bind.h"
@@ -27,6 +30,7 @@
 #include "ui/notes_page.h"
 #include "ui/person_page.h"
 #include "ui/phase_label.h"
+#include "ui/roller_window.h"
 #include "ui/theme.h"
 #include "ui/window_place.h"
 
@@ -41,6 +45,13 @@ constexpr int kWidestLeftPane = 560;
 
 void ShowText(QLabel& label, const QString& text) {
   if (label.text() != text) label.setText(text);
+}
+
+/// Whether the act asks for the dice roller, which then comes to the front though it is open.
+bool AsksForRoller(const Act& act) {
+  constexpr std::string_view kControls[] = {"ShowRoller", "cmdShots1",  "cmdShots3",
+                                            "cmdShotsFA", "cmdUnarmed", "cmdBody"};
+  return std::ranges::find(kControls, act.control) != std::end(kControls);
 }
 
 }  // namespace
@@ -139,7 +150,12 @@ void MainWindow::Do(const Act& act) {
   PaintAll();
   // Open already, it comes to the front.
   if (act.control == "mnuViewGM") gameMaster_->raise();
+  if (ngdr_ != nullptr && ngdr_->isVisible() && AsksForRoller(act)) ngdr_->raise();
   if (session_.main.closing) close();
+}
+
+void MainWindow::LoadRoller() {
+  ngdr_ = new RollerWindow([this](const Act& act) { Do(act); }, this);
 }
 
 void MainWindow::PaintAll() {
@@ -152,6 +168,7 @@ void MainWindow::PaintAll() {
   phase_->FitFont();
   PaintCounts();
   PaintNoteWindows();
+  if (ngdr_ != nullptr) ngdr_->Paint(form);
   if (statusBar()->isHidden() == form.statusBarVisible) {
     statusBar()->setVisible(form.statusBarVisible);
   }

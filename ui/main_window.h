@@ -16,6 +16,7 @@ class InitiativeGridView;
 class LogWindow;
 class PhaseLabel;
 class ReferenceWindow;
+class RollerWindow;
 
 /// The frame of the main window: menus, toolbar, grid, header, pages, status bar. It knows no
 /// rules; what the user does becomes an act, and then the window paints itself from the forms.
@@ -29,6 +30,8 @@ class MainWindow : public QMainWindow {
   /// The one way in which the window changes anything.
   void Do(const Act& act);
   void PaintAll();
+  /// Makes the dice roller's window, hidden.
+  void LoadRoller();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -54,6 +57,7 @@ class MainWindow : public QMainWindow {
   GmWindow* gameMaster_ = nullptr;
   LogWindow* log_ = nullptr;
   ReferenceWindow* reference_ = nullptr;
+  RollerWindow* ngdr_ = nullptr;
   std::unique_ptr<Binder> binder_;
 };
 
