@@ -14,9 +14,8 @@ void Main(Session& session, StartupWindows& windows) {
   session.main.Form_Load();
   windows.LoadMain();
   windows.UnloadSplash();
-  // Hidden, but there for the whole run.
+  // The dice roller is hidden, but there for the whole run.
   session.main.ngdr.Form_Load(environment.files, environment.settings.DatDir);
-  windows.LoadRoller();
   windows.ShowMain();
 }
 

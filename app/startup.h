@@ -13,8 +13,6 @@ class StartupWindows {
   /// Makes the main window, not yet shown.
   virtual void LoadMain() = 0;
   virtual void UnloadSplash() = 0;
-  /// Makes the dice roller's window and leaves it hidden.
-  virtual void LoadRoller() = 0;
   virtual void ShowMain() = 0;
 };
 

@@ -36,7 +36,6 @@ class MeasuredWindows : public StartupWindows {
     prompts_.SetMainWindow(*main_, [this] { main_->PaintAll(); });
   }
   void UnloadSplash() override { splash_.reset(); }
-  void LoadRoller() override {}
   void ShowMain() override {
     new FirstPaint(*main_);
     main_->show();

@@ -44,6 +44,7 @@ std::size_t ColumnFor(const PlayerRecord& combatant) {
 
 std::vector<std::string> VisabilityTable::Names() const {
   std::vector<std::string> names;
+  names.reserve(static_cast<std::size_t>(count));
   for (int index = 0; index < count; ++index) names.push_back(rows[index].name);
   return names;
 }

@@ -36,8 +36,6 @@ class RealWindows : public StartupWindows {
 
   void UnloadSplash() override { splash_.reset(); }
 
-  void LoadRoller() override { main_->LoadRoller(); }
-
   void ShowMain() override { main_->show(); }
 
  private:

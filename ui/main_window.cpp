@@ -154,10 +154,6 @@ void MainWindow::Do(const Act& act) {
   if (session_.main.closing) close();
 }
 
-void MainWindow::LoadRoller() {
-  ngdr_ = new RollerWindow([this](const Act& act) { Do(act); }, this);
-}
-
 void MainWindow::PaintAll() {
   const MainForm& form = session_.main;
   PaintColours();
@@ -167,15 +163,15 @@ void MainWindow::PaintAll() {
   grid_->SetShownRow(form.ShownRow());
   phase_->FitFont();
   PaintCounts();
-  PaintNoteWindows();
-  if (ngdr_ != nullptr) ngdr_->Paint(form);
+  PaintSideWindows();
   if (statusBar()->isHidden() == form.statusBarVisible) {
     statusBar()->setVisible(form.statusBarVisible);
   }
 }
 
-/// Most evenings open few of these windows, so each is made when it is first wanted.
-void MainWindow::PaintNoteWindows() {
+/// Each window beside this one is made when it is first wanted, which keeps the start short; its
+/// form is there from the start.
+void MainWindow::PaintSideWindows() {
   const MainForm& form = session_.main;
   const Perform perform = [this](const Act& act) { Do(act); };
   if (form.frmGMOpen && gameMaster_ == nullptr) gameMaster_ = new GmWindow(perform, this);
@@ -183,6 +179,8 @@ void MainWindow::PaintNoteWindows() {
   if (form.reference.open && reference_ == nullptr) {
     reference_ = new ReferenceWindow(perform, this);
   }
+  if (form.ngdr.visible && ngdr_ == nullptr) ngdr_ = new RollerWindow(perform, this);
+  if (ngdr_ != nullptr) ngdr_->Paint(form);
   if (gameMaster_ != nullptr) gameMaster_->Paint(form);
   if (log_ != nullptr) log_->Paint(form);
   if (reference_ != nullptr) reference_->Paint(form);

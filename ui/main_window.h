@@ -30,8 +30,6 @@ class MainWindow : public QMainWindow {
   /// The one way in which the window changes anything.
   void Do(const Act& act);
   void PaintAll();
-  /// Makes the dice roller's window, hidden.
-  void LoadRoller();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -43,7 +41,7 @@ class MainWindow : public QMainWindow {
   void Place();
   void PaintColours();
   void PaintCounts();
-  void PaintNoteWindows();
+  void PaintSideWindows();
 
   Session& session_;
   PhaseLabel* phase_ = nullptr;

@@ -57,8 +57,10 @@ void QtPrompts::SetMainWindow(QWidget& window, std::function<void()> paint) {
 }
 
 QWidget* QtPrompts::Parent() const {
-  QWidget* modal = QApplication::activeModalWidget();
-  return modal != nullptr ? modal : mainWindow_.data();
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  // A question from a window beside the main one goes back there.
+  QWidget* active = QApplication::activeWindow();
+  return active != nullptr ? active : mainWindow_.data();
 }
 
 void QtPrompts::PaintMainWindow() const {

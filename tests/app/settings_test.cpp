@@ -85,7 +85,6 @@ class RecordingWindows : public StartupWindows {
   void ShowSplash() override { log_.emplace_back("splash"); }
   void LoadMain() override { log_.emplace_back("load main"); }
   void UnloadSplash() override { log_.emplace_back("unload splash"); }
-  void LoadRoller() override { log_.emplace_back("load roller"); }
   void ShowMain() override { log_.emplace_back("show main"); }
 
  private:
@@ -107,7 +106,7 @@ TEST(Startup, WithoutACharacterDirectoryTheOptionsComeFirstAndCountFromTheNextSt
   Main(program.session, windows);
   EXPECT_EQ(program.prompts.log,
             (std::vector<std::string>{"splash", "modal frmOptions", "load main", "unload splash",
-                                      "load roller", "show main"}));
+                                      "show main"}));
   EXPECT_EQ(program.files.ReadWhole("C:\\tracker\\tracker.ini"),
             "[NGtracker]\r\nNG3Dir=E:\\people\r\nDatDir=E:\\tables\r\nCloneInit= 1 \r\n"
             "DisableNGDR= 0 \r\n");
@@ -121,7 +120,7 @@ TEST(Startup, WithoutACharacterDirectoryTheOptionsComeFirstAndCountFromTheNextSt
   Main(program.session, windows);
   EXPECT_EQ(settings.NG3Dir, "E:\\people");
   EXPECT_EQ(program.prompts.log.front(), "splash");
-  EXPECT_EQ(program.prompts.log.size(), 5U);
+  EXPECT_EQ(program.prompts.log.size(), 4U);
 }
 
 TEST(Options, AFailedWriteIsReportedAndLeavesTheDialogAndTheOldFile) {

@@ -21,7 +21,6 @@ class NoWindows : public StartupWindows {
   void ShowSplash() override {}
   void LoadMain() override {}
   void UnloadSplash() override {}
-  void LoadRoller() override {}
   void ShowMain() override {}
 };
 

@@ -155,7 +155,6 @@ class GuiProgram : private StartupWindows {
     prompts.SetMainWindow(*window, [this] { window->PaintAll(); });
   }
   void UnloadSplash() override {}
-  void LoadRoller() override {}
   void ShowMain() override { window->show(); }
 
   /// No test expects a message, and one that nobody answers would hold everything up.

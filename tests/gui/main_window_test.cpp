@@ -15,6 +15,7 @@
 #include <QSignalSpy>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QToolButton>
 #include <QTreeView>
 #include <algorithm>
@@ -400,5 +401,13 @@ void MainWindowTest::CombatPageFitsTheLeastWindow() {
 
 }  // namespace ng
 
-QTEST_MAIN(ng::MainWindowTest)
+int main(int argc, char** argv) {
+  // A home of its own, and not far down: a directory tree must reach it without scrolling sideways.
+  const QTemporaryDir home;
+  qputenv("HOME", home.path().toLocal8Bit());
+  qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+  QApplication application(argc, argv);
+  ng::MainWindowTest test;
+  return QTest::qExec(&test, argc, argv);
+}
 #include "main_window_test.moc"
