@@ -28,13 +28,6 @@ QGroupBox* MakeNoteGroup(QWidget* parent) {
   return group;
 }
 
-QVBoxLayout* MakeColumn() {
-  auto* column = new QVBoxLayout;
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(kGroupGap);
-  return column;
-}
-
 }  // namespace
 
 CombatPage::CombatPage(QWidget* parent) : FittedPage(parent) {

@@ -74,6 +74,13 @@ QHBoxLayout* MakeRow(int gap) {
   return row;
 }
 
+QVBoxLayout* MakeColumn() {
+  auto* column = new QVBoxLayout;
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(kGroupGap);
+  return column;
+}
+
 QFrame* MakeLine(Qt::Orientation orientation, QWidget* parent) {
   auto* line = new QFrame(parent);
   line->setObjectName(QStringLiteral("line"));

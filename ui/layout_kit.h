@@ -53,6 +53,8 @@ QVBoxLayout* MakeGroupRows(QGroupBox* group);
 QVBoxLayout* MakeTightRows(QGroupBox* group);
 /// A row without margins of its own.
 QHBoxLayout* MakeRow(int gap = kRowGap);
+/// A column of groups without margins of its own.
+QVBoxLayout* MakeColumn();
 /// A hairline between two parts of a group.
 QFrame* MakeLine(Qt::Orientation orientation, QWidget* parent);
 

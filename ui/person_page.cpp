@@ -117,13 +117,6 @@ QGroupBox* MakeMagic(QWidget* parent) {
   return group;
 }
 
-QVBoxLayout* MakeColumn() {
-  auto* column = new QVBoxLayout;
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(kGroupGap);
-  return column;
-}
-
 }  // namespace
 
 PersonPage::PersonPage(QWidget* parent) : FittedPage(parent) {
