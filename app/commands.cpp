@@ -162,6 +162,7 @@ const auto kCommands = std::to_array<Command>({
     {"mnuViewDark", Main<&MainForm::mnuViewDark>, Menu::View, 1, "&Dark Colours", "Ctrl+Shift+D",
      "Light or dark colours, until the program closes", "", "", true},
 
+    {"Form_Drop", MainText<&MainForm::Form_Drop>},
     {"GridX_Click", MainIndexed<&MainForm::GridX_Click>},
     {"GridX_KeyPress", MainIndexed<&MainForm::GridX_KeyPress>},
     {"GridX_Roll", [](Session& s, const Act& a) { s.main.GridX_Cell(a.index, 1); }},

@@ -2,6 +2,7 @@
 
 #include "app/main_form.h"
 #include "base/number_text.h"
+#include "base/text.h"
 #include "notes/note_file.h"
 
 namespace ng {
@@ -23,7 +24,91 @@ Fight WithoutLooks(const Fight& fight) {
   return plain;
 }
 
+/// "1 character", "2 characters".
+std::string Counted(Integer count, const std::string& what) {
+  return PlainText(count) + " " + what + (count == 1 ? "" : "s");
+}
+
+/// Files of the three kinds, each in the order given.
+struct SortedFiles {
+  std::vector<std::string> characters;
+  std::vector<std::string> states;
+  std::vector<std::string> others;
+};
+
+SortedFiles Sorted(const std::vector<std::string>& paths) {
+  SortedFiles sorted;
+  for (const std::string& path : paths) {
+    if (HasEnding(path, ".ng3")) {
+      sorted.characters.push_back(path);
+    } else if (HasEnding(path, ".ngt")) {
+      sorted.states.push_back(path);
+    } else {
+      sorted.others.push_back(path);
+    }
+  }
+  return sorted;
+}
+
+/// The file's name alone where it lies in the character directory, so that it counts as the same
+/// file that the Open dialog finds there.
+std::string NameIn(const std::string& directory, const std::string& path) {
+  const std::size_t length = directory.size();
+  if (directory.empty() || path.size() <= length || !path.starts_with(directory) ||
+      !HasSeparator(path.substr(length, 1)) || HasSeparator(path.substr(length + 1))) {
+    return path;
+  }
+  return path.substr(length + 1);
+}
+
 }  // namespace
+
+void FightFiles::ImportCharacters(const std::vector<std::string>& names) {
+  Integer imported;
+  const auto finish = [&] {
+    form_.fight.CountPlayers();
+    form_.GridX.RefreshGrid();
+    form_.statusMessage = Counted(imported, "character") + " imported";
+  };
+  try {
+    Progress progress(environment_.prompts, "Importing characters", static_cast<int>(names.size()));
+    for (const std::string& name : names) {
+      progress.Step();
+      ImportOne(name);
+      imported += 1;
+    }
+  } catch (const RuntimeError&) {
+    // Those before the one that failed are in the fight and must be seen there.
+    finish();
+    throw;
+  }
+  if (imported > 0) finish();
+}
+
+void FightFiles::ImportOne(const std::string& name) {
+  form_.StoreSheet();
+  const ImportTarget target{environment_.files, environment_.settings, form_.gearTable, form_.fight,
+                            form_.characters};
+  form_.XFerPC(LoadCharacterFile(target, name));
+  form_.RecalcArmor();
+}
+
+void FightFiles::OpenFiles(const std::vector<std::string>& paths) {
+  const SortedFiles files = Sorted(paths);
+  if (files.states.size() > 1) {
+    environment_.prompts.Message("Only one state file can be opened at a time");
+    return;
+  }
+  if (!files.states.empty()) LoadState(files.states.front());
+  std::vector<std::string> names;
+  for (const std::string& path : files.characters) {
+    names.push_back(NameIn(environment_.settings.NG3Dir, path));
+  }
+  ImportCharacters(names);
+  if (!files.others.empty()) {
+    form_.statusMessage = "Neither a character nor a state file: " + files.others.front();
+  }
+}
 
 bool FightFiles::SaveState() {
   const auto path = environment_.prompts.SaveFile(
@@ -55,6 +140,8 @@ void FightFiles::LoadState(const std::string& path) {
   form_.StoreSheet();
   sheets_ = {};
   try {
+    Progress progress(environment_.prompts, "Restoring the fight", CombatantsIn(file));
+    loading_ = &progress;
     ReadStateFile(file, form_.fight, *this);
   } catch (const RuntimeError&) {
     // Nothing of the sheet shown may be written over what was read.
@@ -66,12 +153,13 @@ void FightFiles::LoadState(const std::string& path) {
   form_.sequencer.Reset();
   form_.sequencer.TakeUpTurn(turn);
   saved_ = form_.fight;
-  form_.statusMessage = "Fight of " + PlainText(form_.fight.NumPlayers) + " combatants restored";
+  form_.statusMessage = "Fight of " + Counted(form_.fight.NumPlayers, "combatant") + " restored";
 }
 
 bool FightFiles::Changed() const { return WithoutLooks(form_.fight) != WithoutLooks(saved_); }
 
 void FightFiles::ImportCharacter(const std::string& fileName) {
+  loading_->Step();
   const ImportTarget target{environment_.files, environment_.settings, form_.gearTable, form_.fight,
                             form_.characters};
   LoadCharacterFile(target, sheets_, fileName);

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "base/ports.h"
+#include "base/progress.h"
 #include "import/character_import.h"
 #include "tracker/state_file.h"
 
@@ -11,10 +14,18 @@ namespace ng {
 class MainForm;
 struct Environment;
 
-/// The state and note files of the main window's File menu and notes page.
+/// The files of the main window's File menu and notes page: characters, states and notes.
 class FightFiles : private StateFileHost {
  public:
   FightFiles(MainForm& form, Environment& environment) : form_(form), environment_(environment) {}
+
+  /// Imports character files in this order and displays each. A runtime error ends the row; those
+  /// before the one that failed stay.
+  void ImportCharacters(const std::vector<std::string>& names);
+  /// What was dropped on the window or handed over at the start: the state file first, which would
+  /// lay itself over the characters, and then those in the order given. Refused for two state
+  /// files; what is neither is named in the status bar.
+  void OpenFiles(const std::vector<std::string>& paths);
 
   /// Asks for a file and writes the fight to it. Returns false when the dialog was cancelled. The
   /// status bar names the combatants that the file's rules leave out.
@@ -38,6 +49,7 @@ class FightFiles : private StateFileHost {
  private:
   void ImportCharacter(const std::string& fileName) override;
   std::string ShowNote(const std::string& noteFileName) override;
+  void ImportOne(const std::string& name);
   void ReadInto(const std::string& path);
   void NameNoteFile(const std::string& path);
 
@@ -45,6 +57,8 @@ class FightFiles : private StateFileHost {
   Environment& environment_;
   /// The sheets that this load has imported so far.
   ImportedSheets sheets_;
+  /// Of the load that is under way.
+  Progress* loading_ = nullptr;
   Fight saved_;
 };
 

@@ -19,6 +19,15 @@ constexpr std::array<LayoutKey, 4> kLayoutKeys = {{{"MainLeft", &WindowLayout::M
                                                    {"MainWidth", &WindowLayout::MainWidth},
                                                    {"MainHeight", &WindowLayout::MainHeight}}};
 
+/// File names joined by "|".
+std::vector<std::string> FileNames(const std::string& joined) {
+  std::vector<std::string> names;
+  for (const std::string_view name : Split(joined, '|')) {
+    if (!name.empty()) names.emplace_back(name);
+  }
+  return names;
+}
+
 }  // namespace
 
 void HeaderPanel::Show(const PlayerRecord& record) {
@@ -84,34 +93,10 @@ void MainForm::mnuFileNew() { actions.RemoveAll(); }
 void MainForm::mnuFileOpen() {
   loader_.Form_Load();
   environment_.prompts.ShowModal(ModalForm::Loader);
-  Integer imported;
-  const auto finish = [&] {
-    fight.CountPlayers();
-    GridX.RefreshGrid();
-    statusMessage =
-        PlainText(imported) + (imported == 1 ? " character" : " characters") + " imported";
-  };
-  try {
-    for (const std::string_view name : Split(loader_.selectionList, '|')) {
-      if (name.empty()) continue;
-      ImportCharacter(std::string(name));
-      imported += 1;
-    }
-  } catch (const RuntimeError&) {
-    // Those before the one that failed are in the fight and must be seen there.
-    finish();
-    throw;
-  }
-  if (imported > 0) finish();
+  fightFiles.ImportCharacters(FileNames(loader_.selectionList));
 }
 
-void MainForm::ImportCharacter(const std::string& name) {
-  SyncSheet();
-  const ImportTarget target{environment_.files, environment_.settings, gearTable, fight,
-                            characters};
-  XFerPC(LoadCharacterFile(target, name));
-  RecalcArmor();
-}
+void MainForm::Form_Drop(const std::string& names) { fightFiles.OpenFiles(FileNames(names)); }
 
 void MainForm::mnuFileExit() {
   if (fightFiles.Changed()) {

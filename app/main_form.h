@@ -123,6 +123,9 @@ class MainForm : private SequencerHost {
   /// Keeps the layout for the next start.
   void Form_Unload();
 
+  /// Opens files dropped on the window or named at the start; the names are joined by "|".
+  void Form_Drop(const std::string& names);
+
   // Menu and toolbar.
   /// Removes all combatants; nothing is asked.
   void mnuFileNew();
@@ -232,7 +235,6 @@ class MainForm : private SequencerHost {
   PlayerRecord& Displayed() { return fight.Players[fight.CurrentPCpointer]; }
   template <typename Table>
   void Take(Table& table, Loaded<Table> loaded);
-  void ImportCharacter(const std::string& name);
   /// Shows what an action may have changed of the displayed combatant.
   void ShowHeader() { header.Show(fight.Players[fight.CurrentPCpointer]); }
   void UpdateWeapons();

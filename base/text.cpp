@@ -31,6 +31,11 @@ bool EqualIgnoringCase(std::string_view a, std::string_view b) {
   return true;
 }
 
+bool HasEnding(std::string_view name, std::string_view ending) {
+  return name.size() >= ending.size() &&
+         EqualIgnoringCase(name.substr(name.size() - ending.size()), ending);
+}
+
 bool LessIgnoringCase(std::string_view a, std::string_view b) {
   const auto lower = [](char x, char y) {
     return static_cast<unsigned char>(AsciiLower(x)) < static_cast<unsigned char>(AsciiLower(y));

@@ -15,6 +15,8 @@ std::string_view Trimmed(std::string_view text);
 /// ASCII lower case of one character; the others, accented letters included, stay.
 char AsciiLower(char c);
 bool EqualIgnoringCase(std::string_view a, std::string_view b);
+/// Whether a file name ends like this, ASCII case ignored (".ng3").
+bool HasEnding(std::string_view name, std::string_view ending);
 /// Orders names as a file list does: by their letters whatever their case, equal ones by case.
 bool LessIgnoringCase(std::string_view a, std::string_view b);
 

@@ -88,10 +88,7 @@ std::vector<std::string> NativeFiles::List(const std::string& directory, std::st
     if (!entry->is_regular_file(ignored)) continue;
     const std::u8string utf8 = entry->path().filename().u8string();
     std::string name = FromUtf8({reinterpret_cast<const char*>(utf8.data()), utf8.size()});
-    if (name.size() >= ending.size() &&
-        EqualIgnoringCase(std::string_view(name).substr(name.size() - ending.size()), ending)) {
-      names.push_back(std::move(name));
-    }
+    if (HasEnding(name, ending)) names.push_back(std::move(name));
   }
   std::sort(names.begin(), names.end(), LessIgnoringCase);
   return names;

@@ -1,5 +1,6 @@
 #include "tracker/state_file.h"
 
+#include <algorithm>
 #include <array>
 #include <span>
 
@@ -149,6 +150,11 @@ std::vector<std::string> NamesLeftOut(const Fight& fight) {
     if (slot > static_cast<int>(slots.size())) names.push_back(fight.Players[slot].Name);
   }
   return names;
+}
+
+int CombatantsIn(const ProfileFile& file) {
+  return static_cast<int>(std::clamp(LeadingNumber(file.Value(kSystem, "NumPlayers")), 0.0,
+                                     static_cast<double>(Fight::kLastSlot)));
 }
 
 void ReadStateFile(const ProfileFile& file, Fight& fight, StateFileHost& host) {

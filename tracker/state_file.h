@@ -19,6 +19,9 @@ std::string StateFileText(Fight& fight);
 /// The names of the combatants that StateFileText leaves out, in the order of their slots.
 std::vector<std::string> NamesLeftOut(const Fight& fight);
 
+/// How many combatants the file tells of, 0 to 100 whatever stands there.
+int CombatantsIn(const ProfileFile& file);
+
 /// What restoring a fight needs of the window above it.
 class StateFileHost {
  public:

@@ -8,6 +8,7 @@
 #include "platform/files.h"
 #include "platform/seed.h"
 #include "platform/user_settings.h"
+#include "ui/file_drop.h"
 #include "ui/icons.h"
 #include "ui/main_window.h"
 #include "ui/prompts.h"
@@ -38,6 +39,12 @@ class RealWindows : public StartupWindows {
 
   void ShowMain() override { main_->show(); }
 
+  /// Opens the files named at the start.
+  void Open(const QStringList& paths) {
+    const std::string files = FilesToOpen(paths);
+    if (!files.empty()) main_->Do({"Form_Drop", 0, files});
+  }
+
  private:
   Session& session_;
   QtPrompts& prompts_;
@@ -63,6 +70,7 @@ int Run(QApplication& application) {
   RealWindows windows(session, prompts);
   try {
     Main(session, windows);
+    windows.Open(QCoreApplication::arguments().mid(2));
   } catch (const RuntimeError& error) {
     windows.UnloadSplash();
     prompts.Message(error.what());

@@ -21,6 +21,7 @@
 #include "ui/button_keys.h"
 #include "ui/combat_page.h"
 #include "ui/command_bars.h"
+#include "ui/file_drop.h"
 #include "ui/gear_page.h"
 #include "ui/header_panel.h"
 #include "ui/initiative_grid_view.h"
@@ -83,6 +84,7 @@ MainWindow::MainWindow(Session& session) : session_(session) {
   activeSkills_ = findChild<QTreeWidget*>(QStringLiteral("lstActive"));
   weapons_ = findChild<QTreeWidget*>(QStringLiteral("lstWeapon"));
   AddButtonKeys(*this);
+  new FileDrop(*this, perform);
   binder_ = std::make_unique<Binder>(*this, perform);
   PaintAll();
   Place();

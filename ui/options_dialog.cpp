@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,11 +19,24 @@
 namespace ng {
 namespace {
 
+/// What the directories are for, to whom has not seen the program before.
 QString FirstStartText() {
   return OptionsDialog::tr(
       "Welcome. Please say where the character files (*.ng3) lie that you import combatants from, "
-      "and where Forgekit's DATA directory with its reference tables is. The character "
-      "directory and the two switches below count from the next start on.");
+      "and where Forgekit's DATA directory is, with the tables of gear, ranges and skills that the "
+      "import needs.");
+}
+
+/// At the first start the dialog comes before the settings are read, all but the character
+/// directory; later on only the character directory is asked for again and again.
+QString TimeText(OptionsDialog::Occasion occasion) {
+  return occasion == OptionsDialog::Occasion::FirstStart
+             ? OptionsDialog::tr(
+                   "The character directory takes effect at the next start; for today, find the "
+                   "files in the Open dialog. All else takes effect now.")
+             : OptionsDialog::tr(
+                   "The character directory takes effect at once. The tables of the DATA directory "
+                   "are read, and the two switches take effect, at the next start.");
 }
 
 }  // namespace
@@ -31,12 +45,12 @@ OptionsDialog::OptionsDialog(Session& session, Occasion occasion, QWidget* paren
     : QDialog(parent), session_(session) {
   setObjectName(QStringLiteral("frmOptions"));
   setWindowTitle(tr("Options"));
-  resize(650, 396);
+  resize(650, 424);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(12, 10, 12, 12);
   column->setSpacing(8);
   if (occasion == Occasion::FirstStart) {
-    resize(650, 480);
+    resize(650, 500);
     auto* welcome = new QLabel(FirstStartText(), this);
     welcome->setWordWrap(true);
     column->addWidget(welcome);
@@ -47,6 +61,10 @@ OptionsDialog::OptionsDialog(Session& session, Occasion occasion, QWidget* paren
   data_ = AddGroup(*groups, tr("DATA directory"), "Dat");
   column->addLayout(groups, 1);
   column->addWidget(BuildSwitches());
+  auto* time = new QLabel(TimeText(occasion), this);
+  time->setProperty("tone", "muted");
+  time->setWordWrap(true);
+  column->addWidget(time);
   column->addLayout(BuildButtons());
   Paint();
 }
@@ -69,7 +87,16 @@ OptionsDialog::Group OptionsDialog::AddGroup(QBoxLayout& row, const QString& tit
   column->setSpacing(6);
   column->addWidget(picker->Drives());
   column->addWidget(picker->Tree(), 1);
-  column->addWidget(path);
+  auto* browse = new QPushButton(tr("Browse..."), box);
+  browse->setObjectName(QStringLiteral("cmdBrowse") + suffix);
+  browse->setAccessibleName(tr("%1: browse").arg(title));
+  browse->setToolTip(tr("Pick the directory in the system's own chooser"));
+  browse->setAutoDefault(false);
+  auto* chosen = new QHBoxLayout;
+  chosen->setSpacing(6);
+  chosen->addWidget(path, 1);
+  chosen->addWidget(browse);
+  column->addLayout(chosen);
   row.addWidget(box, 1);
 
   const std::string control = "frmOptions.dir" + suffix.toStdString();
@@ -77,11 +104,15 @@ OptionsDialog::Group OptionsDialog::AddGroup(QBoxLayout& row, const QString& tit
           [this, control](const QString&, const QString& root) { Do(control, PathText(root)); });
   connect(picker, &DirectoryPicker::DirectoryChosen, this,
           [this, control](const QString& directory) { Do(control, PathText(directory)); });
+  connect(browse, &QPushButton::clicked, this, [this, control, title, path] {
+    const QString directory = QFileDialog::getExistingDirectory(this, title, path->text());
+    if (!directory.isEmpty()) Do(control, PathText(directory));
+  });
   return {picker, path};
 }
 
 QWidget* OptionsDialog::BuildSwitches() {
-  auto* box = new QGroupBox(tr("At the next start"), this);
+  auto* box = new QGroupBox(tr("Switches"), this);
   auto* column = new QVBoxLayout(box);
   column->setContentsMargins(10, 10, 10, 8);
   column->setSpacing(4);

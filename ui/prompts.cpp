@@ -17,6 +17,7 @@ namespace ng {
 namespace {
 
 constexpr int kBoxWidth = 350;
+constexpr qint64 kPatience = 250;  // Milliseconds.
 
 const QString& Title() {
   static const QString title = QStringLiteral("NGtracker");
@@ -124,6 +125,25 @@ void QtPrompts::ShowModal(ModalForm form) {
       SkillLevelDialog(*session_, Parent()).exec();
       break;
   }
+}
+
+void QtPrompts::ShowProgress(std::string_view what, int done, int total) {
+  if (done >= total) {
+    progress_.reset();
+    workTime_.invalidate();
+    return;
+  }
+  if (!workTime_.isValid()) workTime_.start();
+  if (progress_ == nullptr) {
+    if (workTime_.elapsed() < kPatience) return;
+    progress_ = std::make_unique<QProgressDialog>(ToQString(what), QString(), 0, total, Parent());
+    progress_->setWindowTitle(Title());
+    progress_->setMinimumWidth(kBoxWidth);
+    progress_->setMinimumDuration(0);
+    // Every window is closed to the user meanwhile, since a command runs to its end.
+    progress_->setWindowModality(Qt::ApplicationModal);
+  }
+  progress_->setValue(done);
 }
 
 }  // namespace ng

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QPointer>
+#include <QProgressDialog>
 #include <QWidget>
 #include <functional>
+#include <memory>
 
 #include "base/ports.h"
 
@@ -26,6 +29,8 @@ class QtPrompts : public Prompts {
   std::optional<std::string> SaveFile(const FileDialog& dialog) override;
   SaveChoice AskToSave(std::string_view question) override;
   void ShowModal(ModalForm form) override;
+  /// Shows the dialog only for work that takes longer than a quarter of a second.
+  void ShowProgress(std::string_view what, int done, int total) override;
 
  private:
   QWidget* Parent() const;
@@ -34,6 +39,8 @@ class QtPrompts : public Prompts {
   Session* session_ = nullptr;
   QPointer<QWidget> mainWindow_;
   std::function<void()> paint_;
+  QElapsedTimer workTime_;
+  std::unique_ptr<QProgressDialog> progress_;
 };
 
 }  // namespace ng

@@ -93,6 +93,31 @@ TEST_F(FightFilesTest, AHundredOfOneFileComeBack) {
   EXPECT_EQ(later.main.GridX.RowCount(), 100);
 }
 
+TEST_F(FightFilesTest, DroppedFilesAreOpenedTheStateFirst) {
+  Save(program);
+  TestProgram later;
+  PutCharacters(later.files);
+  later.files.Put(kState, program.files.ReadWhole(kState));
+  const std::string birch = "C:\\chars\\Birch.NG3";
+  later.Do("Form_Drop", 0, birch + "|" + kState + "|C:\\chars\\ash.ng3");
+  // Three of the state, one of which is Birch, and then both characters in the order dropped.
+  ASSERT_EQ(later.fight.CountPlayers().Value(), 5);
+  EXPECT_EQ(later.fight.Players[4].Name, "Birch");
+  EXPECT_EQ(later.fight.Players[5].Name, "Ash::2");
+  EXPECT_EQ(later.fight.CurrentPCpointer.Value(), 5);
+  EXPECT_EQ(later.main.statusMessage, "2 characters imported");
+
+  later.Do("Form_Drop", 0, "D:\\map.png|C:\\chars\\gone.ngt");
+  EXPECT_EQ(later.prompts.TakeLog().back(), "message \"File not found\"");
+  EXPECT_FALSE(later.prompts.underWay);
+  later.Do("Form_Drop", 0, kState + "|" + kState);
+  EXPECT_EQ(later.prompts.TakeLog().back(),
+            "message \"Only one state file can be opened at a time\"");
+  later.Do("Form_Drop", 0, "D:\\map.png");
+  EXPECT_EQ(later.main.statusMessage, "Neither a character nor a state file: D:\\map.png");
+  EXPECT_EQ(later.fight.CountPlayers().Value(), 5);
+}
+
 TEST_F(FightFilesTest, AFailureLeavesTheOldFileOrWhatWasRead) {
   Save(program);
   const std::string whole = program.files.ReadWhole(kState);

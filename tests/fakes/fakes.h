@@ -86,6 +86,9 @@ class ScriptedPrompts : public Prompts {
   std::optional<std::string> SaveFile(const FileDialog& dialog) override;
   SaveChoice AskToSave(std::string_view question) override;
   void ShowModal(ModalForm form) override;
+  void ShowProgress(std::string_view, int done, int total) override { underWay = done < total; }
+  /// Work was begun and not yet ended.
+  bool underWay = false;
 
  private:
   Answer TakeAnswer(const std::string& question);
