@@ -161,6 +161,10 @@ const auto kCommands = std::to_array<Command>({
      "Show or hide the status bar", "", "", true},
     {"mnuViewDark", Main<&MainForm::mnuViewDark>, Menu::View, 1, "&Dark Colours", "Ctrl+Shift+D",
      "Light or dark colours, until the program closes", "", "", true},
+    {"mnuHelpContents", [](Session& s, const Act& a) { s.main.help.Form_Load(a.text); }, Menu::Help,
+     0, "&Help", "F1", "How a combat turn runs, and all commands and keys"},
+    {"mnuHelpAbout", Main<&MainForm::mnuHelpAbout>, Menu::Help, 1, "&About NGtracker", "Shift+F1",
+     "Which version this is, and what it is built on"},
 
     {"Form_Drop", MainText<&MainForm::Form_Drop>},
     {"GridX_Click", MainIndexed<&MainForm::GridX_Click>},
@@ -264,6 +268,10 @@ const auto kCommands = std::to_array<Command>({
     {"frmReference.lstNames_Select",
      [](Session& s, const Act& a) { s.main.reference.lstNames_Select(a.index); }},
     {"frmReference.Close", [](Session& s, const Act&) { s.main.reference.open = false; }},
+    {"frmHelp.txtFilter", [](Session& s, const Act& a) { s.main.help.txtFilter_Change(a.text); }},
+    {"frmHelp.lstTopics_Select",
+     [](Session& s, const Act& a) { s.main.help.lstTopics_Select(a.index); }},
+    {"frmHelp.Close", [](Session& s, const Act&) { s.main.help.open = false; }},
 
     {"frmSelSkillLevel.cmdSkillSelect",
      [](Session& s, const Act& a) { s.main.skillLevel.cmdSkillSelect_Click(a.index); }},

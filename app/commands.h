@@ -10,6 +10,17 @@ namespace ng {
 /// The menus of the main window, in their order.
 enum class Menu { None, File, Turn, Combatant, View, Help };
 
+/// A menu's title, with the mnemonic marked by "&".
+struct MenuTitle {
+  Menu menu;
+  const char* text;
+};
+inline constexpr MenuTitle kMenuTitles[] = {{Menu::File, "&File"},
+                                            {Menu::Turn, "&Turn"},
+                                            {Menu::Combatant, "&Combatant"},
+                                            {Menu::View, "&View"},
+                                            {Menu::Help, "&Help"}};
+
 /// A command: what runs it, and how it stands in the menus and on the toolbar. Menus, toolbar, the
 /// door and the tests all walk the one table of these.
 struct Command {

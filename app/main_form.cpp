@@ -164,6 +164,8 @@ void MainForm::mnuViewOptions() {
   environment_.prompts.ShowModal(ModalForm::Options);
 }
 
+void MainForm::mnuHelpAbout() { environment_.prompts.ShowModal(ModalForm::About); }
+
 void MainForm::GridX_Click(int row) {
   if (row < 1 || row > GridX.RowCount()) return;
   SyncSheet();

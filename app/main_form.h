@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "app/fight_files.h"
+#include "app/help_form.h"
 #include "app/options_form.h"
 #include "app/settings.h"
 #include "base/ports.h"
@@ -87,6 +88,7 @@ class MainForm : private SequencerHost {
   GmLog gmLog;
   LogViewer logViewer;
   ReferenceForm reference;
+  HelpForm help;
   /// The game master's window is open.
   bool frmGMOpen = false;
   InitiativeGrid GridX;
@@ -149,6 +151,7 @@ class MainForm : private SequencerHost {
   void mnuViewGM() { frmGMOpen = true; }
   void mnuViewLog();
   void mnuViewReference() { reference.Form_Load(); }
+  void mnuHelpAbout();
   /// Asks for a line and adds the answer, whatever it is, to the game master's list.
   void cmdAddNote();
   void mnuViewStatusBar() { statusBarVisible = !statusBarVisible; }

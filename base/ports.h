@@ -37,7 +37,7 @@ class Uniform {
 };
 
 /// The modal windows that one form can ask for; the door hands them on to their own forms.
-enum class ModalForm { Options, Loader, SkillLevel };
+enum class ModalForm { Options, Loader, SkillLevel, About };
 
 /// What the common file dialog is opened with.
 struct FileDialog {

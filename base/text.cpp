@@ -49,6 +49,12 @@ bool Contains(std::string_view text, std::string_view part) {
   return text.find(part) != std::string_view::npos;
 }
 
+bool ContainsIgnoringCase(std::string_view text, std::string_view part) {
+  const auto found = std::search(text.begin(), text.end(), part.begin(), part.end(),
+                                 [](char x, char y) { return AsciiLower(x) == AsciiLower(y); });
+  return found != text.end() || part.empty();
+}
+
 std::vector<std::string_view> Split(std::string_view text, char separator) {
   std::vector<std::string_view> pieces;
   if (text.empty()) return pieces;

@@ -21,6 +21,7 @@ bool HasEnding(std::string_view name, std::string_view ending);
 bool LessIgnoringCase(std::string_view a, std::string_view b);
 
 bool Contains(std::string_view text, std::string_view part);
+bool ContainsIgnoringCase(std::string_view text, std::string_view part);
 
 /// The pieces between the separators; the views point into `text`. An empty text has no pieces; a
 /// separator at the end is followed by an empty piece.

@@ -20,12 +20,6 @@ constexpr int kToolbarHeight = 57;
 constexpr QSize kLeastButton(57, 49);
 constexpr QSize kLeastNext(70, 49);
 
-constexpr std::pair<Menu, const char*> kMenus[] = {{Menu::File, "&File"},
-                                                   {Menu::Turn, "&Turn"},
-                                                   {Menu::Combatant, "&Combatant"},
-                                                   {Menu::View, "&View"},
-                                                   {Menu::Help, "&Help"}};
-
 bool IsNext(const Command& command) { return std::strcmp(command.toolbarKey, "Next") == 0; }
 
 QAction* MakeAction(QMainWindow& window, const Command& command, const Perform& perform) {
@@ -71,7 +65,7 @@ void AddButton(QMainWindow& window, QToolBar& bar, const Command& command) {
 }  // namespace
 
 void BuildMenus(QMainWindow& window, const Perform& perform) {
-  for (const auto& [place, title] : kMenus) {
+  for (const auto& [place, title] : kMenuTitles) {
     QMenu* menu = nullptr;
     int group = 0;
     for (const Command& command : Commands()) {

@@ -24,6 +24,7 @@
 #include "ui/file_drop.h"
 #include "ui/gear_page.h"
 #include "ui/header_panel.h"
+#include "ui/help_window.h"
 #include "ui/initiative_grid_view.h"
 #include "ui/legend.h"
 #include "ui/list_paint.h"
@@ -152,6 +153,7 @@ void MainWindow::Do(const Act& act) {
   PaintAll();
   // Open already, it comes to the front.
   if (act.control == "mnuViewGM") gameMaster_->raise();
+  if (act.control == "mnuHelpContents") help_->BringToFront();
   if (ngdr_ != nullptr && ngdr_->isVisible() && AsksForRoller(act)) ngdr_->raise();
   if (session_.main.closing) close();
 }
@@ -181,11 +183,13 @@ void MainWindow::PaintSideWindows() {
   if (form.reference.open && reference_ == nullptr) {
     reference_ = new ReferenceWindow(perform, this);
   }
+  if (form.help.open && help_ == nullptr) help_ = new HelpWindow(perform, this);
   if (form.ngdr.visible && ngdr_ == nullptr) ngdr_ = new RollerWindow(perform, this);
   if (ngdr_ != nullptr) ngdr_->Paint(form);
   if (gameMaster_ != nullptr) gameMaster_->Paint(form);
   if (log_ != nullptr) log_->Paint(form);
   if (reference_ != nullptr) reference_->Paint(form);
+  if (help_ != nullptr) help_->Paint(form);
 }
 
 void MainWindow::PaintColours() {

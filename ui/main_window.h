@@ -12,6 +12,7 @@ namespace ng {
 
 class Binder;
 class GmWindow;
+class HelpWindow;
 class InitiativeGridView;
 class LogWindow;
 class PhaseLabel;
@@ -55,6 +56,7 @@ class MainWindow : public QMainWindow {
   GmWindow* gameMaster_ = nullptr;
   LogWindow* log_ = nullptr;
   ReferenceWindow* reference_ = nullptr;
+  HelpWindow* help_ = nullptr;
   RollerWindow* ngdr_ = nullptr;
   std::unique_ptr<Binder> binder_;
 };

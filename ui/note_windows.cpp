@@ -5,10 +5,12 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QTreeWidget>
 #include <utility>
 
+#include "app/commands.h"
 #include "ui/layout_kit.h"
 #include "ui/text.h"
 
@@ -46,6 +48,12 @@ SideWindow::SideWindow(const QString& name, const QString& title, const char* cl
   setObjectName(name);
   setWindowTitle(title);
   setModal(false);
+  // The main window's menus do not hear the keys of this one.
+  const QString key = QString::fromLatin1(FindCommand("mnuHelpContents")->shortcut);
+  auto* help = new QShortcut(QKeySequence(key, QKeySequence::PortableText), this);
+  connect(help, &QShortcut::activated, this, [this] {
+    Do({"mnuHelpContents", 0, FromQString(objectName())});
+  });
 }
 
 void SideWindow::reject() { Do({closeAct_}); }

@@ -13,7 +13,7 @@ class QTreeWidget;
 namespace ng {
 
 /// A window beside the main one that follows a form: shown while the form is open, brought to the
-/// front when it is asked for again. Closing it is an act, too.
+/// front when it is asked for again. Closing it is an act, and F1 asks for the help on it.
 class SideWindow : public QDialog {
   Q_OBJECT
 

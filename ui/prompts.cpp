@@ -6,6 +6,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "ui/about_dialog.h"
 #include "ui/input_dialog.h"
 #include "ui/loader_dialog.h"
 #include "ui/options_dialog.h"
@@ -123,6 +124,9 @@ void QtPrompts::ShowModal(ModalForm form) {
     }
     case ModalForm::SkillLevel:
       SkillLevelDialog(*session_, Parent()).exec();
+      break;
+    case ModalForm::About:
+      AboutDialog(Parent()).exec();
       break;
   }
 }

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "app/keys.h"
 #include "ui/bind.h"
 #include "ui/elided_label.h"
 #include "ui/layout_kit.h"
@@ -117,13 +118,14 @@ QTabBar* RollerWindow::MakeTabs() {
 void RollerWindow::BuildMenu(const Perform& perform) {
   auto* bar = new QMenuBar(this);
   QMenu* menu = bar->addMenu(tr("&Shortcuts"));
-  const auto add = [this, menu](const char* name, const QString& text, const char* key) {
+  const auto add = [this, menu](const char* name, const QString& text) {
     QAction* action = menu->addAction(text);
     action->setObjectName(QString::fromLatin1(name));
-    action->setShortcut(QKeySequence(QString::fromLatin1(key), QKeySequence::PortableText));
+    action->setShortcut(
+        QKeySequence(QString::fromLatin1(RollerKey(name)), QKeySequence::PortableText));
     return action;
   };
-  connect(add("Roll", tr("&Roll"), "Ctrl+R"), &QAction::triggered, this,
+  connect(add("Roll", tr("&Roll")), &QAction::triggered, this,
           [perform] { perform({"ngdr.cmdRoll"}); });
   const auto focus = [this](const char* box) {
     auto* edit = findChild<QLineEdit*>(QString::fromLatin1(box));
@@ -132,10 +134,8 @@ void RollerWindow::BuildMenu(const Perform& perform) {
       edit->selectAll();
     };
   };
-  connect(add("NumDice", tr("&Number of dice"), "Ctrl+D"), &QAction::triggered, this,
-          focus("txtNumDice"));
-  connect(add("TargNum", tr("&Target number"), "Ctrl+T"), &QAction::triggered, this,
-          focus("txtTargetNum"));
+  connect(add("NumDice", tr("&Number of dice")), &QAction::triggered, this, focus("txtNumDice"));
+  connect(add("TargNum", tr("&Target number")), &QAction::triggered, this, focus("txtTargetNum"));
   layout()->setMenuBar(bar);
 }
 

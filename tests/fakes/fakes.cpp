@@ -124,7 +124,8 @@ SaveChoice ScriptedPrompts::AskToSave(std::string_view question) {
 }
 
 void ScriptedPrompts::ShowModal(ModalForm form) {
-  constexpr std::array<const char*, 3> kNames = {"frmOptions", "frmLoader", "frmSelSkillLevel"};
+  constexpr std::array<const char*, 4> kNames = {"frmOptions", "frmLoader", "frmSelSkillLevel",
+                                                 "frmAbout"};
   const Answer answer =
       TakeAnswer(std::string("modal ") + kNames.at(static_cast<std::size_t>(form)));
   for (const Act& act : answer.acts) perform(act);
