@@ -53,8 +53,8 @@ constexpr Words kTurn[] = {
      "turn as in step 2."},
     {"When something comes between", ""},
     {"Delay",
-     "{mnuPDelay} in the combatant's own turn puts its action off. Toggle it back on the delayed "
-     "one's sheet, and it acts at once; the one it interrupts keeps its action. When Next comes to "
+     "{mnuPDelay} in the combatant's own turn puts its action off. To let it act at once, show its "
+     "sheet and toggle again; the one it interrupts keeps its action. When Next comes to "
      "it in the next pass (\"Possible loss of turn.\") it may act; the Next after that lets it act "
      "in this pass if it has score left, and passes it over if not."},
     {"Inactive",

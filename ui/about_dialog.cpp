@@ -15,14 +15,23 @@ constexpr int kWidth = 460;
 constexpr int kIconSize = 64;
 constexpr int kEdge = 16;
 
-QString BuiltOn() {
-  return AboutDialog::tr(
-             "Built with Qt %1, running on Qt %2, under the GNU Lesser General Public License "
-             "version 3.\n"
-             "The text is set in Noto Sans where the system has it, under the SIL Open Font "
-             "License.\n"
-             "The program draws its icons itself.")
-      .arg(QStringLiteral(QT_VERSION_STR), QString::fromLatin1(qVersion()));
+QVBoxLayout* MakeBuiltOn(QWidget* parent) {
+  const QString texts[] = {
+      AboutDialog::tr("Built with Qt %1, running on Qt %2, under the GNU Lesser General Public "
+                      "License version 3.")
+          .arg(QStringLiteral(QT_VERSION_STR), QString::fromLatin1(qVersion())),
+      AboutDialog::tr(
+          "The text is set in the system's Noto Sans, where there is one, under the SIL "
+          "Open Font License."),
+      AboutDialog::tr("The program draws its icons itself.")};
+  QVBoxLayout* column = MakeColumn();
+  for (const QString& text : texts) {
+    QLabel* label = MakeCaption(text, parent);
+    label->setWordWrap(true);
+    label->setFixedWidth(kWidth);
+    column->addWidget(label);
+  }
+  return column;
 }
 
 QVBoxLayout* MakeTitle(QWidget* parent) {
@@ -51,9 +60,6 @@ AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent) {
   auto* head = MakeRow(kEdge);
   head->addWidget(icon, 0, Qt::AlignTop);
   head->addLayout(MakeTitle(this), 1);
-  QLabel* builtOn = MakeCaption(BuiltOn(), this);
-  builtOn->setWordWrap(true);
-  builtOn->setTextInteractionFlags(Qt::TextSelectableByMouse);
   QPushButton* ok =
       MakeButton({QStringLiteral("cmdOK"), tr("OK"), tr("Close the window")}, tr("OK"), this);
   ok->setDefault(true);
@@ -65,9 +71,8 @@ AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent) {
   column->setSizeConstraint(QLayout::SetFixedSize);
   column->addLayout(head);
   column->addWidget(MakeLine(Qt::Horizontal, this));
-  column->addWidget(builtOn);
+  column->addLayout(MakeBuiltOn(this));
   column->addWidget(ok, 0, Qt::AlignRight);
-  builtOn->setFixedWidth(kWidth);
 }
 
 }  // namespace ng

@@ -62,7 +62,7 @@ class TopicWriter {
   }
 
   void AddParagraph(const QString& text, const char* style) {
-    html_ += QStringLiteral("<p style=\"margin:0; %1\">%2</p>").arg(QLatin1String(style), text);
+    html_ += QStringLiteral("<p style=\"margin:0 4px; %1\">%2</p>").arg(QLatin1String(style), text);
   }
 
   void AddRow(const std::vector<std::string>& cells, const char* tag) {
@@ -132,6 +132,7 @@ HelpWindow::HelpWindow(const Perform& perform, QWidget* parent)
   topic_ = new QTextBrowser(this);
   topic_->setObjectName(QStringLiteral("txtTopic"));
   topic_->setAccessibleName(tr("Text of the topic"));
+  topic_->document()->setDocumentMargin(kGroupPadding);
   connect(filter_, &QLineEdit::textEdited, this, [this](const QString& text) {
     Do({"frmHelp.txtFilter", 0, FromQString(text)});
   });

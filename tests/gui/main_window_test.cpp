@@ -16,10 +16,13 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QTextBrowser>
 #include <QToolButton>
 #include <QTreeView>
+#include <QTreeWidget>
 #include <algorithm>
 
+#include "app/commands.h"
 #include "gui/gui_program.h"
 #include "ui/combat_page.h"
 #include "ui/damage_bar.h"
@@ -66,6 +69,7 @@ class MainWindowTest : public QObject {
   void BoxesAreStoredOrPaintedBack();
   void ToolbarMarksMirrorTheMenu();
   void EveryEntryHasTextKeyAndTip();
+  void HelpOpensFindsAndCloses();
   void EveryControlInSightHasAName();
   void MnemonicsAreUniqueOnEachPage();
   void NothingMovesWithTheCombatant();
@@ -283,6 +287,42 @@ void MainWindowTest::EveryEntryHasTextKeyAndTip() {
   }
   QVERIFY(entries >= 20);
   QCOMPARE(faults.join(QLatin1String(", ")), QString());
+}
+
+void MainWindowTest::HelpOpensFindsAndCloses() {
+  Start();
+  program_->Key(Qt::Key_F1);
+  auto& help = program_->Find<QDialog>("frmHelp");
+  auto& topics = *help.findChild<QTreeWidget*>(QStringLiteral("lstTopics"));
+  const auto& text = *help.findChild<QTextBrowser*>(QStringLiteral("txtTopic"));
+  QTRY_VERIFY(topics.hasFocus());
+  const int all = topics.topLevelItemCount();
+  const QString first = text.toPlainText();
+  program_->Key(Qt::Key_Down);
+  program_->Key(Qt::Key_Down);
+  QVERIFY(text.toPlainText() != first);
+
+  // The tip of one command, which stands nowhere else.
+  const QString tip = ToQString(FindCommand("mnuTClear")->tip).toUpper();
+  program_->Key(Qt::Key_F, Qt::ControlModifier);
+  QTest::keyClicks(QApplication::focusWidget(), tip);
+  QCOMPARE(topics.topLevelItemCount(), 1);
+  QVERIFY(text.toPlainText().contains(tip, Qt::CaseInsensitive));
+  QVERIFY(!text.toPlainText().contains(ToQString(FindCommand("mnuTNext")->tip)));
+  QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("x"));
+  QCOMPARE(topics.topLevelItemCount(), 0);
+  program_->Key(Qt::Key_Escape);
+  QVERIFY(!help.isVisible());
+
+  // From the dice roller, over the topic that was left, and with nothing looked for any more.
+  program_->window->activateWindow();
+  QTRY_VERIFY(program_->window->isActiveWindow());
+  program_->Key(Qt::Key_F12);
+  QTRY_VERIFY(program_->Find<QPushButton>("cmdRoll").hasFocus());
+  program_->Key(Qt::Key_F1);
+  QTRY_VERIFY(topics.hasFocus());
+  QCOMPARE(topics.topLevelItemCount(), all);
+  QVERIFY(text.toPlainText().contains(QLatin1String("Rule of One!")));
 }
 
 void MainWindowTest::EveryControlInSightHasAName() {
