@@ -8,12 +8,6 @@ namespace {
 
 bool IsEntry(std::string_view line) { return !line.empty() && !line.starts_with('!'); }
 
-std::string Lower(std::string_view text) {
-  std::string lower;
-  for (const char c : text) lower += AsciiLower(c);
-  return lower;
-}
-
 std::string_view AfterFirstBar(std::string_view line) {
   const std::size_t bar = line.find('|');
   return bar == std::string_view::npos ? std::string_view{} : line.substr(bar + 1);
@@ -50,10 +44,9 @@ std::string InfoIndex::Index(std::string_view text) {
 }
 
 std::vector<int> InfoIndex::Matching(std::string_view text) const {
-  const std::string wanted = Lower(text);
   std::vector<int> indices;
   for (int i = 0; i < count_; ++i) {
-    if (Contains(Lower(entries_[i].name), wanted)) indices.push_back(i);
+    if (ContainsIgnoringCase(entries_[i].name, text)) indices.push_back(i);
   }
   return indices;
 }

@@ -20,6 +20,7 @@ namespace {
 constexpr int kEdge = 12;
 constexpr int kTopicsWidth = 200;
 constexpr QSize kSize(860, 600);
+constexpr QSize kLeastSize(640, 400);
 
 // What the columns of a table take of its width, in per cent.
 constexpr int kTwoColumns[] = {24, 76};
@@ -119,6 +120,7 @@ class TopicWriter {
 
 HelpWindow::HelpWindow(const Perform& perform, QWidget* parent)
     : SideWindow(QStringLiteral("frmHelp"), tr("Help"), "frmHelp.Close", perform, parent) {
+  setMinimumSize(kLeastSize);
   resize(kSize);
   filter_ = MakeBox({QStringLiteral("txtFilter"), tr("Find in the help"),
                      TipWithKey(tr("Show the lines that contain this"), tr("Ctrl+F"))},
@@ -132,6 +134,8 @@ HelpWindow::HelpWindow(const Perform& perform, QWidget* parent)
   topic_ = new QTextBrowser(this);
   topic_->setObjectName(QStringLiteral("txtTopic"));
   topic_->setAccessibleName(tr("Text of the topic"));
+  // Keys and names stay whole in narrow columns.
+  topic_->setWordWrapMode(QTextOption::WordWrap);
   topic_->document()->setDocumentMargin(kGroupPadding);
   connect(filter_, &QLineEdit::textEdited, this, [this](const QString& text) {
     Do({"frmHelp.txtFilter", 0, FromQString(text)});
