@@ -1,8 +1,8 @@
 #include "app/profile_file.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
+#include <optional>
 #include <utility>
 
 #include "base/runtime_error.h"
@@ -14,12 +14,29 @@ namespace {
 /// The platform's buffer of 4096 characters holds the value and an end mark.
 constexpr std::size_t kLongestValue = 4095;
 
-std::uint32_t HashIgnoringCase(std::string_view text) {
-  std::uint32_t hash = 2166136261U;
-  for (const char c : text) {
-    hash = (hash ^ static_cast<unsigned char>(AsciiLower(c))) * 16777619U;
-  }
-  return hash;
+/// Length and first, middle and last letter, whatever their case. Names that are equal have equal
+/// marks; most others differ, at a fraction of what a hash of all letters costs.
+std::uint32_t MarkOf(std::string_view name) {
+  if (name.empty()) return 0;
+  const auto letter = [name](std::size_t index) {
+    return std::uint32_t{static_cast<unsigned char>(AsciiLower(name[index]))};
+  };
+  return static_cast<std::uint32_t>(name.size()) << 24U | letter(0) << 16U |
+         letter(name.size() / 2) << 8U | letter(name.size() - 1);
+}
+
+/// The number behind `word` in the key of a numbered list; nothing when the key is another one or
+/// the number is not in plain decimal ("Gear01").
+std::optional<std::size_t> NumberBehind(std::string_view word, std::string_view key) {
+  if (key.size() <= word.size()) return {};
+  const std::string_view digits = key.substr(word.size());
+  std::size_t number = 0;
+  const char* const end = digits.data() + digits.size();
+  const auto result = std::from_chars(digits.data(), end, number);
+  if (result.ec != std::errc() || result.ptr != end) return {};
+  if (digits.size() > 1 && digits.front() == '0') return {};
+  if (!EqualIgnoringCase(key.substr(0, word.size()), word)) return {};
+  return number;
 }
 
 std::string_view WithoutQuotes(std::string_view value) {
@@ -38,7 +55,7 @@ ProfileFile::ProfileFile(std::string text) : text_(std::move(text)) {
     if (line.empty() || line.front() == ';') continue;
     if (line.front() == '[') {
       const std::string_view name = Trimmed(line.substr(1, line.find(']') - 1));
-      sections_.push_back({HashIgnoringCase(name), name, entries_.size(), entries_.size()});
+      sections_.push_back({MarkOf(name), name, entries_.size(), entries_.size()});
       continue;
     }
     const std::size_t equals = line.find('=');
@@ -46,7 +63,7 @@ ProfileFile::ProfileFile(std::string text) : text_(std::move(text)) {
     const std::string_view key = Trimmed(line.substr(0, equals));
     const std::string_view value = WithoutQuotes(Trimmed(line.substr(equals + 1)));
     entries_.push_back({key, value.substr(0, kLongestValue)});
-    keyHashes_.push_back(HashIgnoringCase(key));
+    keyMarks_.push_back(MarkOf(key));
     sections_.back().endEntry = entries_.size();
   }
 }
@@ -55,10 +72,10 @@ const ProfileFile::Section* ProfileFile::FindSection(std::string_view name) cons
   if (lastSection_ < sections_.size() && sections_[lastSection_].name == name) {
     return &sections_[lastSection_];
   }
-  const std::uint32_t hash = HashIgnoringCase(name);
+  const std::uint32_t mark = MarkOf(name);
   for (std::size_t i = 0; i < sections_.size(); ++i) {
     const Section& section = sections_[i];
-    if (section.nameHash == hash && EqualIgnoringCase(section.name, name)) {
+    if (section.nameMark == mark && EqualIgnoringCase(section.name, name)) {
       lastSection_ = i;
       return &section;
     }
@@ -69,24 +86,39 @@ const ProfileFile::Section* ProfileFile::FindSection(std::string_view name) cons
 std::string_view ProfileFile::Value(std::string_view section, std::string_view key) const {
   const Section* found = FindSection(section);
   if (found == nullptr) return {};
-  const std::uint32_t hash = HashIgnoringCase(key);
-  const auto end = keyHashes_.begin() + static_cast<std::ptrdiff_t>(found->endEntry);
-  auto hit = keyHashes_.begin() + static_cast<std::ptrdiff_t>(found->firstEntry);
-  while ((hit = std::find(hit, end, hash)) != end) {
-    const Entry& entry = entries_[static_cast<std::size_t>(hit - keyHashes_.begin())];
+  const std::uint32_t mark = MarkOf(key);
+  const auto end = keyMarks_.begin() + static_cast<std::ptrdiff_t>(found->endEntry);
+  auto hit = keyMarks_.begin() + static_cast<std::ptrdiff_t>(found->firstEntry);
+  while ((hit = std::find(hit, end, mark)) != end) {
+    const Entry& entry = entries_[static_cast<std::size_t>(hit - keyMarks_.begin())];
     if (EqualIgnoringCase(entry.key, key)) return entry.value;
     ++hit;
   }
   return {};
 }
 
-std::string_view ProfileFile::Value(std::string_view section, std::string_view word,
-                                    int number) const {
-  std::string key(word);
-  std::array<char, 12> digits{};
-  key.append(digits.data(),
-             std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr);
-  return Value(section, key);
+std::vector<std::string_view> ProfileFile::NumberedValues(std::string_view section,
+                                                          std::string_view word) const {
+  const Section* found = FindSection(section);
+  if (found == nullptr) return {};
+  // One walk over the section instead of a search for every number. A list without gaps has no
+  // number past the section's length.
+  std::vector<std::string_view> values(found->endEntry - found->firstEntry);
+  for (std::size_t i = found->firstEntry; i < found->endEntry; ++i) {
+    const std::optional<std::size_t> number = NumberBehind(word, entries_[i].key);
+    if (!number || *number >= values.size()) continue;
+    // The first key of a name counts, even if its value is empty; that one is no null view.
+    if (values[*number].data() == nullptr) values[*number] = entries_[i].value;
+  }
+  values.erase(std::find(values.begin(), values.end(), std::string_view()), values.end());
+  return values;
+}
+
+std::string ProfileFile::TakeText() && {
+  sections_.clear();
+  entries_.clear();
+  keyMarks_.clear();
+  return std::move(text_);
 }
 
 bool HasSeparator(std::string_view path) {

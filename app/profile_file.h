@@ -29,12 +29,20 @@ class ProfileFile {
   /// long as this file.
   std::string_view Value(std::string_view section, std::string_view key) const;
 
-  /// The value of a numbered key: `word` followed by `number` in plain decimal ("Gear0").
-  std::string_view Value(std::string_view section, std::string_view word, int number) const;
+  /// The values of a numbered list, whose keys are `word` followed by 0, 1, 2 and so on in plain
+  /// decimal ("Gear0"), up to the first that is missing or empty. The views live as long as this
+  /// file.
+  std::vector<std::string_view> NumberedValues(std::string_view section,
+                                               std::string_view word) const;
+
+  /// The whole text; every value views into it.
+  const std::string& Text() const { return text_; }
+  /// Gives the text up. The file is empty afterwards.
+  std::string TakeText() &&;
 
  private:
   struct Section {
-    std::uint32_t nameHash = 0;
+    std::uint32_t nameMark = 0;
     std::string_view name;
     std::size_t firstEntry = 0;
     std::size_t endEntry = 0;
@@ -50,7 +58,7 @@ class ProfileFile {
   std::vector<Section> sections_;
   std::vector<Entry> entries_;
   /// Of the entries' keys, apart from them so that a search runs through few bytes.
-  std::vector<std::uint32_t> keyHashes_;
+  std::vector<std::uint32_t> keyMarks_;
   /// The section asked for last: readers go through a file section by section.
   mutable std::size_t lastSection_ = 0;
 };

@@ -13,7 +13,9 @@ std::string_view TrimmedLeft(std::string_view text);
 std::string_view Trimmed(std::string_view text);
 
 /// ASCII lower case of one character; the others, accented letters included, stay.
-char AsciiLower(char c);
+constexpr char AsciiLower(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
 bool EqualIgnoringCase(std::string_view a, std::string_view b);
 /// Whether a file name ends like this, ASCII case ignored (".ng3").
 bool HasEnding(std::string_view name, std::string_view ending);

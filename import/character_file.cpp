@@ -1,6 +1,8 @@
 #include "import/character_file.h"
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "app/encoding.h"
 #include "base/number_text.h"
@@ -11,20 +13,37 @@
 namespace ng {
 namespace {
 
-std::string Decoded(const ProfileFile& file, std::string_view section, std::string_view key) {
-  return DecodeNG3(file.Value(section, key));
-}
+/// A character file and its text decoded as a whole: most of it is wanted decoded, and one long
+/// text goes faster than hundreds of short ones.
+class CharacterText {
+ public:
+  explicit CharacterText(const ProfileFile& file) : file_(file), decoded_(DecodeNG3(file.Text())) {}
 
-/// Calls `take` with every decoded value of a numbered list, up to the first that is empty.
-template <typename Take>
-void ForEachNumbered(const ProfileFile& file, std::string_view section, std::string_view word,
-                     Take take) {
-  for (int number = 0;; ++number) {
-    const std::string value = DecodeNG3(file.Value(section, word, number));
-    if (value.empty()) return;
-    take(value);
+  /// The value as it stands in the file.
+  std::string_view Value(std::string_view section, std::string_view key) const {
+    return file_.Value(section, key);
   }
-}
+  std::string_view Decoded(std::string_view section, std::string_view key) const {
+    return Decoded(file_.Value(section, key));
+  }
+  /// The decoded values of a numbered list, up to the first that is empty.
+  std::vector<std::string_view> List(std::string_view section, std::string_view word) const {
+    std::vector<std::string_view> values = file_.NumberedValues(section, word);
+    for (std::string_view& value : values) value = Decoded(value);
+    return values;
+  }
+
+ private:
+  /// Decoding changes no length, so a value's place is the same in both texts.
+  std::string_view Decoded(std::string_view value) const {
+    if (value.empty()) return {};
+    const auto offset = static_cast<std::size_t>(value.data() - file_.Text().data());
+    return std::string_view(decoded_).substr(offset, value.size());
+  }
+
+  const ProfileFile& file_;
+  std::string decoded_;
+};
 
 struct InitiativePair {
   Integer natural;
@@ -37,16 +56,16 @@ InitiativePair ReadPair(std::string_view attributeValue) {
   return {ToInteger(natural), ToInteger(augmented)};
 }
 
-void ReadAttributes(const ProfileFile& file, CharacterEntry& entry) {
+void ReadAttributes(const CharacterText& file, CharacterEntry& entry) {
   for (std::size_t i = 0; i < kAttributeCount; ++i) {
     entry.attributes[i] = FormatAttribute(file.Value("Attributes", kAttributeKeys[i]));
   }
   if (file.Value("System", "Generator") == "Critters") {
-    entry.attacks = Decoded(file, "Attributes", "Attacks");
+    entry.attacks = file.Decoded("Attributes", "Attacks");
   }
 }
 
-void ReadPools(const ProfileFile& file, CharacterEntry& entry) {
+void ReadPools(const CharacterText& file, CharacterEntry& entry) {
   for (std::size_t i = 0; i < kPoolKeys.size(); ++i) {
     entry.pools[i] = file.Value("Pools", kPoolKeys[i]);
   }
@@ -74,25 +93,25 @@ std::string SkillLine(std::string_view value) {
   return std::string(value.substr(0, value.find('=', tab)));
 }
 
-void ReadRaceDescription(const ProfileFile& file, ImportedCharacter& character) {
-  ForEachNumbered(file, "Race", "RaceDesc", [&](const std::string& line) {
+void ReadRaceDescription(const CharacterText& file, ImportedCharacter& character) {
+  for (const std::string_view line : file.List("Race", "RaceDesc")) {
     if (Contains(line, "Thermographic")) character.record.natThermographic = true;
     if (Contains(line, "Low Light")) character.record.natLowLight = true;
-    character.entry.raceDescription.push_back(line);
-  });
+    character.entry.raceDescription.emplace_back(line);
+  }
 }
 
-void ReadBioware(const ProfileFile& file, ImportedCharacter& character) {
-  ForEachNumbered(file, "Bioware", "Bio", [&](const std::string& line) {
+void ReadBioware(const CharacterText& file, ImportedCharacter& character) {
+  for (const std::string_view line : file.List("Bioware", "Bio")) {
     if (Contains(line, "Cat's Eyes")) character.record.natLowLight = true;
     AddLines(character.entry.augments, "BIO: ", line);
-  });
+  }
 }
 
 /// Returns the bone lace that the implants hold.
-BoneLace ReadCyberware(const ProfileFile& file, ImportedCharacter& character) {
+BoneLace ReadCyberware(const CharacterText& file, ImportedCharacter& character) {
   BoneLace lace;
-  ForEachNumbered(file, "Cyberware", "Cyber", [&](const std::string& line) {
+  for (const std::string_view line : file.List("Cyberware", "Cyber")) {
     if (Contains(line, "Low-Light")) {
       character.record.augLowLight = true;
       character.record.natLowLight = false;
@@ -104,11 +123,11 @@ BoneLace ReadCyberware(const ProfileFile& file, ImportedCharacter& character) {
       lace = {true, named.material == 0 ? lace.material : named.material};
     }
     AddLines(character.entry.augments, "CYB: ", line);
-  });
+  }
   return lace;
 }
 
-void ReadBoneLaceArmour(const ProfileFile& file, BoneLace lace, CharacterEntry& entry) {
+void ReadBoneLaceArmour(const CharacterText& file, BoneLace lace, CharacterEntry& entry) {
   const std::string_view impact = file.Value("Attributes", "e_armor_impactArmorMod");
   const std::string_view ballistic = file.Value("Attributes", "e_armor_ballisticArmorMod");
   if (!lace.present || (LeadingNumber(impact) == 0 && LeadingNumber(ballistic) == 0)) return;
@@ -126,7 +145,7 @@ void MarkCarried(std::vector<CarriedLine>& lines) {
 }  // namespace
 
 std::string ImportedName(const ProfileFile& file, Integer earlierImports) {
-  std::string name = Decoded(file, "General", "CharName");
+  std::string name = DecodeNG3(file.Value("General", "CharName"));
   if (file.Value("System", "Finalize") != "True") name.insert(0, "(NF)");
   if (earlierImports > 0) name += "::" + PlainText(earlierImports);
   return name;
@@ -141,35 +160,44 @@ void ReadInitiative(const ProfileFile& file, PlayerRecord& record) {
   record.CurReactAugmented = reaction.augmented;
 }
 
-void ParseCharacterFile(const ProfileFile& file, const GearTable& gearTable,
+void ParseCharacterFile(const ProfileFile& profile, const GearTable& gearTable,
                         ImportedCharacter& character) {
+  const CharacterText file(profile);
   CharacterEntry& entry = character.entry;
   ReadAttributes(file, entry);
   entry.runMultiplier = file.Value("Race", "RunMult");
-  entry.raceName = Decoded(file, "Race", "RaceName");
+  entry.raceName = file.Decoded("Race", "RaceName");
   character.record.Race = entry.raceName;
   ReadPools(file, entry);
 
   entry.weapons.push_back({UnarmedLine(), false});
-  ForEachNumbered(file, "Gear", "Gear",
-                  [&](const std::string& item) { AddItem(gearTable, item, entry); });
-  ForEachNumbered(file, "Skills", "Skill",
-                  [&](const std::string& skill) { entry.skills.push_back(SkillLine(skill)); });
-  ForEachNumbered(file, "Edges", "Edge",
-                  [&](const std::string& edge) { entry.edges.push_back(edge); });
-  ForEachNumbered(file, "Magic", "Spell",
-                  [&](const std::string& spell) { AddLines(entry.magic, "SPL: ", spell); });
-  entry.mageType = Decoded(file, "Magic", "MageType");
-  ForEachNumbered(file, "Magic", "Power",
-                  [&](const std::string& power) { AddLines(entry.magic, "ADP: ", power); });
-  ForEachNumbered(file, "Magic", "Geas",
-                  [&](const std::string& geas) { AddLines(entry.magic, "GEA: ", geas); });
+  int number = 0;
+  for (const std::string_view item : file.List("Gear", "Gear")) {
+    AddItem(gearTable, item, number++, entry);
+  }
+  for (const std::string_view skill : file.List("Skills", "Skill")) {
+    entry.skills.push_back(SkillLine(skill));
+  }
+  for (const std::string_view edge : file.List("Edges", "Edge")) {
+    entry.edges.emplace_back(edge);
+  }
+  for (const std::string_view spell : file.List("Magic", "Spell")) {
+    AddLines(entry.magic, "SPL: ", spell);
+  }
+  entry.mageType = file.Decoded("Magic", "MageType");
+  for (const std::string_view power : file.List("Magic", "Power")) {
+    AddLines(entry.magic, "ADP: ", power);
+  }
+  for (const std::string_view geas : file.List("Magic", "Geas")) {
+    AddLines(entry.magic, "GEA: ", geas);
+  }
   ReadRaceDescription(file, character);
   ReadBioware(file, character);
   const BoneLace lace = ReadCyberware(file, character);
   ReadBoneLaceArmour(file, lace, entry);
-  ForEachNumbered(file, "Contacts", "Contact",
-                  [&](const std::string& contact) { entry.contacts.push_back(contact); });
+  for (const std::string_view contact : file.List("Contacts", "Contact")) {
+    entry.contacts.emplace_back(contact);
+  }
 
   MarkCarried(entry.weapons);
   MarkCarried(entry.armour);

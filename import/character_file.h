@@ -23,7 +23,7 @@ void ReadInitiative(const ProfileFile& file, PlayerRecord& record);
 
 /// Reads everything else: attributes, race, pools, magic, the item lists, vision and armour. Absent
 /// keys read as empty, so that a file that is no character file gives an empty sheet.
-void ParseCharacterFile(const ProfileFile& file, const GearTable& gearTable,
+void ParseCharacterFile(const ProfileFile& profile, const GearTable& gearTable,
                         ImportedCharacter& character);
 
 }  // namespace ng

@@ -23,7 +23,7 @@ Integer EarlierImports(Fight& fight, const std::string& fullName) {
 }
 
 ImportedCharacter ReadCharacter(const ImportTarget& target, const std::string& fullName) {
-  const ProfileFile file(ReadProfileText(target.files, fullName));
+  ProfileFile file(ReadProfileText(target.files, fullName));
   ImportedCharacter character;
   PlayerRecord& record = character.record;
   record.Name = ImportedName(file, EarlierImports(target.fight, fullName));
@@ -34,6 +34,7 @@ ImportedCharacter ReadCharacter(const ImportTarget& target, const std::string& f
   StoreArmour(record, DeriveArmour(character.entry));
   record.KP = LenientInteger(character.entry.karmaPool);
   RefillPools(record, character.entry);
+  character.entry.fileText = std::move(file).TakeText();
   return character;
 }
 

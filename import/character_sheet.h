@@ -14,6 +14,9 @@ namespace ng {
 struct CarriedLine {
   std::string text;
   bool carried = false;
+  /// The item's running number in the character file's "Gear" list; -1 for a line that is no item
+  /// of the list, such as bare hands and bone lace.
+  int number = -1;
 
   friend bool operator==(const CarriedLine&, const CarriedLine&) = default;
 };
@@ -45,6 +48,8 @@ constexpr std::array<const char*, 6> kPoolKeys = {"Combat", "Control", "Hacking"
 /// too, so that it survives a look at somebody else.
 struct CharacterEntry {
   std::string Filename;
+  /// The file as it was read, for what is asked of it later.
+  std::string fileText;
   /// As FormatAttribute gives them.
   std::array<std::string, kAttributeCount> attributes;
   std::string runMultiplier;

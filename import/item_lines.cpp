@@ -1,5 +1,6 @@
 #include "import/item_lines.h"
 
+#include <algorithm>
 #include <array>
 #include <initializer_list>
 
@@ -16,72 +17,54 @@ constexpr std::size_t kWornArmourNameWidth = 40;
 constexpr int kArmour = 8;
 constexpr int kIgnored = 26;
 
-/// An item taken apart. Of its fields only as many are kept as a category can have columns.
+/// An item taken apart, as far as the sheet needs it.
 struct Item {
   std::string_view name;
+  /// By position; field 0, the category, is left empty and stands for a column that is not there.
   std::array<std::string_view, 31> fields;
   Integer category;
+  const GearCategory* layout;
+
+  std::string_view Field(GearColumn column) const { return fields[layout->PositionOf(column)]; }
 };
 
-Item TakeApart(std::string_view text) {
-  const std::size_t tab = text.find('\t');
-  Item item{text.substr(0, tab), {}, 0};
-  if (tab == std::string_view::npos) return item;
-  std::string_view rest = text.substr(tab + 1);
-  for (std::string_view& field : item.fields) {
-    const std::size_t end = rest.find('|');
-    field = rest.substr(0, end);
-    if (end == std::string_view::npos) break;
-    rest.remove_prefix(end + 1);
-  }
-  item.category = LenientInteger(item.fields[0]);
+/// Takes the piece up to the next separator off `rest`.
+std::string_view TakeField(std::string_view& rest) {
+  const std::string_view field = rest.substr(0, rest.find('|'));
+  rest.remove_prefix(std::min(field.size() + 1, rest.size()));
+  return field;
+}
+
+Item TakeApart(const GearTable& table, std::string_view text) {
+  const std::size_t tab = std::min(text.find('\t'), text.size());
+  std::string_view rest = text.substr(std::min(tab + 1, text.size()));
+  const Integer category = LenientInteger(TakeField(rest));
+  Item item{text.substr(0, tab), {}, category, &LayoutOf(table, category)};
+  for (std::size_t i = 1; i <= item.layout->lastPosition; ++i) item.fields[i] = TakeField(rest);
   return item;
 }
 
-/// Which columns of a category's layout make up a weapon line; null where there is none.
+/// Which columns make up a weapon line of a category.
 struct WeaponLayout {
   int category;
-  const char* damage;
-  const char* concealability;
+  GearColumn damage;
+  GearColumn concealability;
   /// Written behind the concealability and a "/".
-  const char* besideConcealability;
-  std::array<const char*, 3> figures;
-  const char* ammunition;
-  const char* weight;
+  GearColumn besideConcealability;
+  std::array<GearColumn, 3> figures;
+  GearColumn ammunition;
+  GearColumn weight;
 };
 
+using enum GearColumn;
 constexpr std::array<WeaponLayout, 6> kWeaponLayouts = {{
-    {1, "Damage", "Concealability", "Reach", {}, nullptr, nullptr},
-    {2, "Damage", "Concealability", "Str.Min.", {}, nullptr, "Weight"},
-    {3, "Damage", "Concealability", nullptr, {"Mode", "Accessories"}, "Ammunition", "Weight"},
-    {4, "Damage", nullptr, nullptr, {"Intelligence", "Blast", "Scatter"}, nullptr, "Weight"},
-    {5, "Damage", "Concealability", nullptr, {}, nullptr, nullptr},
-    {6, nullptr, "Concealability", nullptr, {"Mount", "Rating"}, nullptr, "Weight"},
+    {1, Damage, Concealability, Reach, {}, None, None},
+    {2, Damage, Concealability, StrMin, {}, None, Weight},
+    {3, Damage, Concealability, None, {Mode, Accessories}, Ammunition, Weight},
+    {4, Damage, None, None, {Intelligence, Blast, Scatter}, None, Weight},
+    {5, Damage, Concealability, None, {}, None, None},
+    {6, None, Concealability, None, {Mount, Rating}, None, Weight},
 }};
-
-std::string_view FieldNamed(const GearTable& table, const Item& item, const char* column) {
-  if (column == nullptr) return {};
-  const int index = GearColumnIndex(table, item.category, column);
-  return index < 0 ? std::string_view{} : item.fields[static_cast<std::size_t>(index)];
-}
-
-/// The texts that are not empty, joined with "/".
-std::string JoinedWithSlash(std::initializer_list<std::string_view> texts) {
-  std::string joined;
-  for (const std::string_view text : texts) {
-    if (text.empty()) continue;
-    if (!joined.empty()) joined += '/';
-    joined += text;
-  }
-  return joined;
-}
-
-/// The concealability, and what stands beside it behind a "/".
-std::string WithBeside(std::string_view concealability, std::string_view beside) {
-  std::string text(concealability);
-  if (!beside.empty()) text.append("/").append(beside);
-  return text;
-}
 
 std::string JoinedWithTab(std::initializer_list<std::string_view> columns) {
   std::string joined;
@@ -97,21 +80,45 @@ std::string JoinedWithTab(std::initializer_list<std::string_view> columns) {
   return joined;
 }
 
-std::string WeaponLine(const GearTable& table, const Item& item, const WeaponLayout& layout) {
-  const auto field = [&](const char* column) { return FieldNamed(table, item, column); };
-  return JoinedWithTab(
-      {item.name, field(layout.damage),
-       WithBeside(field(layout.concealability), field(layout.besideConcealability)),
-       JoinedWithSlash(
-           {field(layout.figures[0]), field(layout.figures[1]), field(layout.figures[2])}),
-       field(layout.ammunition), field(layout.weight)});
+/// The texts that are not empty, joined with "/".
+void AppendFigures(std::string& line, const Item& item, const std::array<GearColumn, 3>& figures) {
+  bool first = true;
+  for (const GearColumn figure : figures) {
+    const std::string_view text = item.Field(figure);
+    if (text.empty()) continue;
+    if (!first) line += '/';
+    first = false;
+    line += text;
+  }
 }
 
-std::string ArmourLine(const GearTable& table, const Item& item, bool worn) {
-  const auto field = [&](const char* column) { return FieldNamed(table, item, column); };
+/// Written piece by piece into one string: most of a large character's items are weapons or gear.
+std::string WeaponLine(const Item& item, const WeaponLayout& layout, std::size_t itemLength) {
+  std::string line;
+  line.reserve(itemLength);
+  line += item.name;
+  line += '\t';
+  line += item.Field(layout.damage);
+  line += '\t';
+  line += item.Field(layout.concealability);
+  const std::string_view beside = item.Field(layout.besideConcealability);
+  if (!beside.empty()) {
+    line += '/';
+    line += beside;
+  }
+  line += '\t';
+  AppendFigures(line, item, layout.figures);
+  line += '\t';
+  line += item.Field(layout.ammunition);
+  line += '\t';
+  line += item.Field(layout.weight);
+  return line;
+}
+
+std::string ArmourLine(const Item& item, bool worn) {
   return JoinedWithTab({Padded(item.name, worn ? kWornArmourNameWidth : kArmourNameWidth),
-                        field("Concealability"), field("Ballistic"), field("Impact"),
-                        field("Weight")});
+                        item.Field(Concealability), item.Field(Ballistic), item.Field(Impact),
+                        item.Field(Weight)});
 }
 
 }  // namespace
@@ -140,20 +147,20 @@ std::string UnarmedLine() {
   return JoinedWithTab({"Unarmed combat", kUnarmedDamage, "", "", "", ""});
 }
 
-void AddItem(const GearTable& table, std::string_view text, CharacterEntry& entry) {
-  const Item item = TakeApart(text);
+void AddItem(const GearTable& table, std::string_view text, int number, CharacterEntry& entry) {
+  const Item item = TakeApart(table, text);
   if (item.category == kIgnored) return;
   if (item.category == kArmour) {
-    entry.armour.push_back({ArmourLine(table, item, Contains(text, "X:")), false});
+    entry.armour.push_back({ArmourLine(item, Contains(text, "X:")), false, number});
     return;
   }
   for (const WeaponLayout& layout : kWeaponLayouts) {
     if (item.category == layout.category) {
-      entry.weapons.push_back({WeaponLine(table, item, layout), false});
+      entry.weapons.push_back({WeaponLine(item, layout, text.size()), false, number});
       return;
     }
   }
-  entry.gear.push_back({JoinedWithTab({item.name, FieldNamed(table, item, "Weight")}), false});
+  entry.gear.push_back({JoinedWithTab({item.name, item.Field(Weight)}), false, number});
 }
 
 }  // namespace ng

@@ -30,7 +30,7 @@ constexpr const char* kUnarmedDamage = "(STR)M Stun";
 std::string UnarmedLine();
 
 /// Sorts an item (name, tab, "|"-separated fields of which field 0 is the category) into the list
-/// of its category. Category 26 is ignored, on purpose.
-void AddItem(const GearTable& table, std::string_view item, CharacterEntry& entry);
+/// of its category; `number` is its running number in the file. Category 26 is ignored, on purpose.
+void AddItem(const GearTable& table, std::string_view item, int number, CharacterEntry& entry);
 
 }  // namespace ng

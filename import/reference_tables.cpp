@@ -53,6 +53,18 @@ void TakeGearLine(GearTable& table, std::string_view line) {
   table.headerCount += 1;
 }
 
+void FindPositions(GearTable& table) {
+  for (int category = 1; category <= table.categories.kLast; ++category) {
+    GearCategory& layout = table.categories[category];
+    for (std::size_t i = 1; i < kGearColumnNames.size(); ++i) {
+      const int index = GearColumnIndex(table, category, kGearColumnNames[i]);
+      if (index < 0) continue;
+      layout.positions[i] = static_cast<std::size_t>(index);
+      layout.lastPosition = std::max(layout.lastPosition, layout.positions[i]);
+    }
+  }
+}
+
 void TakeRangeLine(RangeTable& table, std::string_view line) {
   const std::vector<std::string_view> fields = Split(line, '|');
   RangeEntry& entry = table.entries[table.count];
@@ -80,8 +92,10 @@ void TakeSkillLine(SkillTable& table, std::string_view line) {
 
 // The three messages differ in case and spelling, and are kept so.
 Loaded<GearTable> LoadGearTable(Files& files, const std::string& datDir) {
-  return LoadTable<GearTable>(files, datDir + "\\gear.dat", "Error Loading: Gear.DAT",
-                              TakeGearLine);
+  Loaded<GearTable> loaded =
+      LoadTable<GearTable>(files, datDir + "\\gear.dat", "Error Loading: Gear.DAT", TakeGearLine);
+  FindPositions(loaded.table);
+  return loaded;
 }
 
 Loaded<RangeTable> LoadRangeTable(Files& files, const std::string& datDir) {
@@ -94,9 +108,14 @@ Loaded<SkillTable> LoadSkillTable(Files& files, const std::string& datDir) {
                                TakeSkillLine);
 }
 
+const GearCategory& LayoutOf(const GearTable& table, Integer category) {
+  static const GearCategory kNone;
+  const bool held = category > 0 && category <= table.categories.kLast;
+  return held ? table.categories[category] : kNone;
+}
+
 int GearColumnIndex(const GearTable& table, Integer category, std::string_view column) {
-  if (category <= 0 || category > table.categories.kLast) return -1;
-  const GearCategory& layout = table.categories[category];
+  const GearCategory& layout = LayoutOf(table, category);
   for (int index = 1; index <= std::min<Integer>(layout.columnCount, layout.columns.kLast);
        ++index) {
     if (layout.columns[index] == column) return index;

@@ -11,12 +11,46 @@
 
 namespace ng {
 
+/// The columns that the sheet is made of.
+enum class GearColumn {
+  None,
+  Accessories,
+  Ammunition,
+  Ballistic,
+  Blast,
+  Concealability,
+  Damage,
+  Impact,
+  Intelligence,
+  Mode,
+  Mount,
+  Rating,
+  Reach,
+  Scatter,
+  StrMin,
+  Weight
+};
+/// Their names in the headers; the empty one stands for no column.
+constexpr std::array<const char*, 16> kGearColumnNames = {
+    "",       "Accessories", "Ammunition",   "Ballistic", "Blast", "Concealability",
+    "Damage", "Impact",      "Intelligence", "Mode",      "Mount", "Rating",
+    "Reach",  "Scatter",     "Str.Min.",     "Weight"};
+
 /// The layout of one category's item lines, from its header in gear.dat.
 struct GearCategory {
   std::string name;
   Integer columnCount;
   /// Positions 1 to `columnCount`.
   FixedTable<std::string, 30> columns;
+  /// Where the columns of the sheet stand, 0 for those that the category has none of. Found once,
+  /// when the table is loaded, since every item of an import asks for several.
+  std::array<std::size_t, kGearColumnNames.size()> positions{};
+  /// The largest of `positions`: what stands behind it need not be taken apart.
+  std::size_t lastPosition = 0;
+
+  std::size_t PositionOf(GearColumn column) const {
+    return positions[static_cast<std::size_t>(column)];
+  }
 };
 
 struct GearTable {
@@ -65,6 +99,9 @@ struct Loaded {
 Loaded<GearTable> LoadGearTable(Files& files, const std::string& datDir);
 Loaded<RangeTable> LoadRangeTable(Files& files, const std::string& datDir);
 Loaded<SkillTable> LoadSkillTable(Files& files, const std::string& datDir);
+
+/// The layout of a category; an empty one for category 0 and those that the table does not hold.
+const GearCategory& LayoutOf(const GearTable& table, Integer category);
 
 /// The position (1 to the column count) of the column of exactly this name, -1 when the category
 /// has none of it; category 0 and categories that the table does not hold have no columns.

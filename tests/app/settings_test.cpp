@@ -42,7 +42,6 @@ TEST(ProfileFile, ReadsAsThePlatformDoes) {
       {"late", ""},        {"missing", ""},
       {"before", ""}};
   for (const auto& [key, value] : cases) EXPECT_EQ(file.Value("SECTION", key), value) << key;
-  EXPECT_EQ(file.Value("section", "Gear", 10), "ten");
   EXPECT_EQ(file.Value("unclosed", "open"), "yes");
   EXPECT_EQ(file.Value("nowhere", "open"), "");
 }
