@@ -48,6 +48,9 @@ std::string_view WithoutQuotes(std::string_view value) {
 }  // namespace
 
 ProfileFile::ProfileFile(std::string text) : text_(std::move(text)) {
+  // A typical line is a little longer. Growing step by step would cost more than it saves.
+  entries_.reserve(text_.size() / 32);
+  keyMarks_.reserve(text_.size() / 32);
   LineReader lines(text_);
   std::string_view line;
   while (lines.Next(line)) {

@@ -12,6 +12,29 @@ namespace {
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
+/// Digits with or without a point among them, and nothing else: nearly every number of a file. Up
+/// to 15 digits and their power of ten are exact in binary, so that the one division rounds as
+/// from_chars does, in a fraction of its time.
+bool ReadPlainDecimal(std::string_view text, double& value) {
+  constexpr std::array<double, 16> kPowers = {1,   1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                              1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+  if (text.size() >= kPowers.size()) return false;
+  std::int64_t digits = 0;
+  std::size_t decimals = 0;
+  bool point = false;
+  for (const char c : text) {
+    if (c == '.' && !point) {
+      point = true;
+      continue;
+    }
+    if (!IsDigit(c)) return false;
+    digits = digits * 10 + (c - '0');
+    if (point) ++decimals;
+  }
+  value = static_cast<double>(digits) / kPowers[decimals];
+  return true;
+}
+
 }  // namespace
 
 double RoundHalfEven(double value) {
@@ -36,6 +59,7 @@ double LeadingNumber(std::string_view text) {
   const bool point = text.size() > 1 && text[0] == '.' && IsDigit(text[1]);
   if (!digits && !point) return 0;
   double value = 0;
+  if (ReadPlainDecimal(text, value)) return negative ? -value : value;
   const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
   if (result.ec == std::errc::result_out_of_range) {
     // Too small to hold is 0; too large ends in Overflow where the number is used.
