@@ -45,13 +45,38 @@ std::string_view WithoutQuotes(std::string_view value) {
   return quoted ? value.substr(1, value.size() - 2) : value;
 }
 
+/// Walks the lines of a text. Empty lines mean nothing here, so that the two ends of a CR LF need
+/// not be told from two lines, and every end is found by a plain search, faster than a LineReader.
+class FilledLines {
+ public:
+  explicit FilledLines(std::string_view text)
+      : text_(text), nextCr_(text.find('\r')), nextLf_(text.find('\n')) {}
+
+  bool Next(std::string_view& line) {
+    while (start_ < text_.size()) {
+      if (nextCr_ < start_) nextCr_ = text_.find('\r', start_);
+      if (nextLf_ < start_) nextLf_ = text_.find('\n', start_);
+      line = text_.substr(start_, std::min(nextCr_, nextLf_) - start_);
+      start_ += line.size() + 1;
+      if (!line.empty()) return true;
+    }
+    return false;
+  }
+
+ private:
+  std::string_view text_;
+  std::size_t start_ = 0;
+  std::size_t nextCr_;
+  std::size_t nextLf_;
+};
+
 }  // namespace
 
 ProfileFile::ProfileFile(std::string text) : text_(std::move(text)) {
   // A typical line is a little longer. Growing step by step would cost more than it saves.
   entries_.reserve(text_.size() / 32);
   keyMarks_.reserve(text_.size() / 32);
-  LineReader lines(text_);
+  FilledLines lines(text_);
   std::string_view line;
   while (lines.Next(line)) {
     line = Trimmed(line);
