@@ -29,7 +29,6 @@ TEST(ProfileFile, ReadsAsThePlatformDoes) {
       "no equals sign\n"
       "sum=1=2\n"
       ";hidden=1\n"
-      "Gear10=ten\n"
       "[section]\n"
       "late=never found\n"
       "[Unclosed\n"
@@ -44,6 +43,20 @@ TEST(ProfileFile, ReadsAsThePlatformDoes) {
   for (const auto& [key, value] : cases) EXPECT_EQ(file.Value("SECTION", key), value) << key;
   EXPECT_EQ(file.Value("unclosed", "open"), "yes");
   EXPECT_EQ(file.Value("nowhere", "open"), "");
+}
+
+TEST(ProfileFile, ANumberedListEndsWithItsFirstGap) {
+  const std::vector<std::pair<const char*, std::vector<std::string_view>>> cases = {
+      {"Gear1=b\nGEAR0=a\ngear0=late\nGear3=d\nGear2=c\n", {"a", "b", "c", "d"}},
+      {"Gear0=a\nGear1=\nGear1=late\nGear2=c\n", {"a"}},
+      {"Gear0=a\nGear01=no\nGear=no\nGear2=c\nGearing1=no\nGear-1=no\n", {"a"}},
+      {"Gear1=b\n", {}},
+      {"Gear0=a\n[Gear]\nGear1=b\n", {"a"}},
+      {"Gear0=a\nGear99999999999999999999=x\nGear1=b", {"a", "b"}}};
+  for (const auto& [lines, values] : cases) {
+    const ProfileFile file("[Gear]\n" + std::string(lines));
+    EXPECT_EQ(file.NumberedValues("gear", "Gear"), values) << lines;
+  }
 }
 
 TEST(ProfileFile, CutsValuesToTheBuffer) {

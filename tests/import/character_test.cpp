@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "fakes/test_program.h"
 #include "import/armour.h"
+#include "import/item_figures.h"
 #include "import/item_lines.h"
 
 namespace ng {
@@ -17,6 +18,7 @@ const std::string kGearTable =
     "0-6|Accessories|4|Mount|Concealability|Rating|Weight\n"
     "0-8|Armour|4|Concealability|Ballistic|Impact|Weight\n"
     "0-9|Tools|2|Cost|Weight\n"
+    "0-10|Lamps|3||Light|Weight\n"
     "0-26|Money|1|Weight\n";
 
 /// Imports one file with this text and returns its sheet.
@@ -78,6 +80,33 @@ TEST(CharacterFile, EveryCategoryFindsItsList) {
             (std::vector<std::string>{"x Coat" + std::string(34, ' ') + "\t8\t5\t4\t3.00",
                                       "- Vest" + std::string(33, ' ') + "\t9\t4\t2\t"}));
   EXPECT_EQ(Texts(one.Entry().gear), (std::vector<std::string>{"x Rope\t2.50", "- Odd thing\t"}));
+}
+
+TEST(CharacterFile, EveryFieldOfAnItemIsFoundAgain) {
+  Imported one(
+      "[Gear]\nGear0=X:Stub_9~3|8|8(c)|SA|6L|0.75||350\nGear1=Coat~8|8|5\nGear2=Coins~26|1\n"
+      "Gear3=Rope~9|40_m|2.50|hemp\nGear4=Odd~99|new||1\ngear3=Second~9|1|1\nGear5=Plain\n"
+      "Gear6=Lamp~10||dim\n");
+  const CharacterEntry& entry = one.Entry();
+  using Figures = std::vector<Figure>;
+  const std::vector<std::pair<CarriedLine, Figures>> cases = {
+      {entry.weapons[0], {}},
+      {entry.weapons[1],
+       {{"Category", "Firearms"},
+        {"Concealability", "8"},
+        {"Ammunition", "8(c)"},
+        {"Mode", "SA"},
+        {"Damage", "6L"},
+        {"Weight", "0.75"}}},
+      {entry.armour[0], {{"Category", "Armour"}, {"Concealability", "8"}, {"Ballistic", "5"}}},
+      {entry.gear[0], {{"Category", "Tools"}, {"Cost", "40 m"}, {"Weight", "2.50"}}},
+      {entry.gear[1], {{"Field 1", "new"}, {"Field 3", "1"}}},
+      {entry.gear[2], {}},
+      {entry.gear[3], {{"Category", "Lamps"}, {"Light", "dim"}}},
+      {{"no longer there", false, 7}, {}}};
+  for (const auto& [line, figures] : cases) {
+    EXPECT_EQ(FiguresOf(one.program.main.gearTable, entry, line), figures) << line.text;
+  }
 }
 
 TEST(CharacterFile, ListsVisionAndTexts) {
