@@ -12,13 +12,14 @@ namespace {
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
+constexpr std::array<double, 16> kPowersOfTen = {1,   1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+
 /// Digits with or without a point among them, and nothing else: nearly every number of a file. Up
 /// to 15 digits and their power of ten are exact in binary, so that the one division rounds as
 /// from_chars does, in a fraction of its time.
 bool ReadPlainDecimal(std::string_view text, double& value) {
-  constexpr std::array<double, 16> kPowers = {1,   1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                              1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-  if (text.size() >= kPowers.size()) return false;
+  if (text.size() >= kPowersOfTen.size()) return false;
   std::int64_t digits = 0;
   std::size_t decimals = 0;
   bool point = false;
@@ -31,7 +32,7 @@ bool ReadPlainDecimal(std::string_view text, double& value) {
     digits = digits * 10 + (c - '0');
     if (point) ++decimals;
   }
-  value = static_cast<double>(digits) / kPowers[decimals];
+  value = static_cast<double>(digits) / kPowersOfTen[decimals];
   return true;
 }
 
