@@ -19,31 +19,47 @@ constexpr int kIgnored = 26;
 
 /// An item taken apart, as far as the sheet needs it.
 struct Item {
-  std::string_view name;
-  /// By position; field 0, the category, is left empty and stands for a column that is not there.
-  std::array<std::string_view, 31> fields;
-  Integer category;
-  const GearCategory* layout;
+  /// Where a field lies in `text`.
+  struct Place {
+    std::size_t start;
+    std::size_t length;
+  };
 
-  std::string_view Field(GearColumn column) const { return fields[layout->PositionOf(column)]; }
+  std::string_view text;
+  std::string_view name;
+  Integer category;
+  const GearCategory* layout = nullptr;
+  /// By position, written up to the layout's last one only: clearing all for every item shows in
+  /// the time of an import. Place 0, the category's, stands for a column that is not there.
+  std::array<Place, 31> places;
+
+  std::string_view Field(GearColumn column) const {
+    const Place& place = places[layout->PositionOf(column)];
+    return text.substr(place.start, place.length);
+  }
 };
 
-/// Takes the piece up to the next separator off `rest`.
-std::string_view TakeField(std::string_view& rest) {
+/// The place of the field that starts at `start`; an empty one at or past the end of the text.
+Item::Place FieldAt(std::string_view text, std::size_t start) {
+  start = std::min(start, text.size());
   // Fields are so short that a search by a function call would take longer than this loop.
-  std::size_t length = 0;
-  while (length < rest.size() && rest[length] != '|') ++length;
-  const std::string_view field = rest.substr(0, length);
-  rest.remove_prefix(std::min(length + 1, rest.size()));
-  return field;
+  std::size_t end = start;
+  while (end < text.size() && text[end] != '|') ++end;
+  return {start, end - start};
 }
 
 Item TakeApart(const GearTable& table, std::string_view text) {
-  const std::size_t tab = std::min(text.find('\t'), text.size());
-  std::string_view rest = text.substr(std::min(tab + 1, text.size()));
-  const Integer category = LenientInteger(TakeField(rest));
-  Item item{text.substr(0, tab), {}, category, &LayoutOf(table, category)};
-  for (std::size_t i = 1; i <= item.layout->lastPosition; ++i) item.fields[i] = TakeField(rest);
+  Item item;
+  item.text = text;
+  item.name = text.substr(0, text.find('\t'));
+  Item::Place place = FieldAt(text, item.name.size() + 1);
+  item.category = LenientInteger(text.substr(place.start, place.length));
+  item.layout = &LayoutOf(table, item.category);
+  item.places[0] = {0, 0};
+  for (std::size_t i = 1; i <= item.layout->lastPosition; ++i) {
+    place = FieldAt(text, place.start + place.length + 1);
+    item.places[i] = place;
+  }
   return item;
 }
 
