@@ -38,6 +38,7 @@ class Imported {
 
 std::vector<std::string> Texts(const std::vector<CarriedLine>& lines) {
   std::vector<std::string> texts;
+  texts.reserve(lines.size());
   for (const CarriedLine& line : lines) texts.push_back((line.carried ? "x " : "- ") + line.text);
   return texts;
 }
