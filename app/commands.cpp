@@ -76,6 +76,17 @@ void Pool(Session& session, const Act&) {
   session.main.ChangePool(box, change);
 }
 
+/// A line of a list was marked.
+template <SheetList list>
+void Mark(Session& session, const Act& act) {
+  session.main.itemInfo.Mark(list, act.index);
+}
+
+template <SheetList list>
+void Inform(Session& session, const Act&) {
+  session.main.itemInfo.Form_Load(list);
+}
+
 // The range choice of the second weapon follows the four of the first.
 void ChooseRange(Session& session, const Act& act) {
   if (act.index < 0 || act.index >= static_cast<int>(2 * kRanges)) ThrowSubscript();
@@ -155,6 +166,8 @@ const auto kCommands = std::to_array<Command>({
      "Show what the log file holds of this and earlier evenings"},
     {"mnuViewReference", Main<&MainForm::mnuViewReference>, Menu::View, 1, "Re&ference", "Ctrl+F",
      "Look up an entry of the reference file"},
+    {"mnuViewInfo", Main<&MainForm::mnuViewInfo>, Menu::View, 1, "&Item Information",
+     "Ctrl+Shift+I", "Show every figure of the line that was marked last"},
     {"ShowRoller", Main<&MainForm::ShowRoller>, Menu::View, 1, "Dice &Roller", "F12",
      "Show the dice roller"},
     {"mnuViewStatusBar", Main<&MainForm::mnuViewStatusBar>, Menu::View, 1, "&Status Bar", "Ctrl+/",
@@ -210,11 +223,19 @@ const auto kCommands = std::to_array<Command>({
     {"cmdMeleeSkill", ChooseSkill<SkillUse::Unarmed>},
     {"cmdUnarmed", [](Session& s, const Act&) { s.main.skillTests.Unarmed(); }},
     {"cmdBody", [](Session& s, const Act&) { s.main.skillTests.BodyTest(); }},
-    {"cmdInfoWeapon", Main<&MainForm::cmdInfoWeapon>},
-    {"cmdInfoGear", Main<&MainForm::cmdInfoGear>},
-    {"lstGear_Select", MainIndexed<&MainForm::lstGear_Select>},
-    {"lstActive_Select", MainIndexed<&MainForm::lstActive_Select>},
-    {"lstWeapon_Select", MainIndexed<&MainForm::lstWeapon_Select>},
+    {"cmdInfoWeapon", Inform<SheetList::Weapon>},
+    {"cmdInfoArmor", Inform<SheetList::Armor>},
+    {"cmdInfoGear", Inform<SheetList::Gear>},
+    {"lstWeapon_Select", Mark<SheetList::Weapon>},
+    {"lstArmor_Select", Mark<SheetList::Armor>},
+    {"lstGear_Select", Mark<SheetList::Gear>},
+    {"lstActive_Select", Mark<SheetList::Active>},
+    {"lstOther_Select", Mark<SheetList::Other>},
+    {"lstMagic_Select", Mark<SheetList::Magic>},
+    {"lstEdges_Select", Mark<SheetList::Edges>},
+    {"lstAugments_Select", Mark<SheetList::Augments>},
+    {"lstContacts_Select", Mark<SheetList::Contacts>},
+    {"lstRace_Select", Mark<SheetList::Race>},
     {"txtCP", Edit<&MainForm::pools, &PoolPanel::txtCP>},
     {"txtSP", Edit<&MainForm::pools, &PoolPanel::txtSP>},
     {"txtSD", Edit<&MainForm::pools, &PoolPanel::txtSD>},
@@ -272,6 +293,8 @@ const auto kCommands = std::to_array<Command>({
     {"frmHelp.lstTopics_Select",
      [](Session& s, const Act& a) { s.main.help.lstTopics_Select(a.index); }},
     {"frmHelp.Close", [](Session& s, const Act&) { s.main.help.open = false; }},
+
+    {"frmInfo.Close", [](Session& s, const Act&) { s.main.itemInfo.open = false; }},
 
     {"frmSelSkillLevel.cmdSkillSelect",
      [](Session& s, const Act& a) { s.main.skillLevel.cmdSkillSelect_Click(a.index); }},

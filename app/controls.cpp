@@ -105,6 +105,9 @@ void VisitSheet(const MainForm& form, ControlVisitor& visitor) {
   visitor.Text({"lblLWght"}, sheet.lblLWght);
   visitor.Text({"lblWeight"}, sheet.lblWeight);
   visitor.Text({"lblWeight2"}, sheet.lblWeight2);
+  visitor.Text({"grpWeapon"}, sheet.grpWeapon);
+  visitor.Text({"grpArmor"}, sheet.grpArmor);
+  visitor.Text({"grpGear"}, sheet.grpGear);
   visitor.CheckList({"lstWeapon"}, sheet.lstWeapon);
   visitor.CheckList({"lstArmor"}, sheet.lstArmor);
   visitor.CheckList({"lstGear"}, sheet.lstGear);

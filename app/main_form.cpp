@@ -57,6 +57,7 @@ MainForm::MainForm(Environment& environment, LoaderForm& loader, OptionsForm& op
       firing(fight, characters, weapons, ngdr, gmLog, environment.prompts, environment.settings),
       skillTests(fight, firing, ngdr, skillLevel, environment.prompts, environment.settings),
       fightFiles(*this, environment),
+      itemInfo(*this, environment.files),
       environment_(environment),
       loader_(loader),
       options_(options) {}
@@ -249,27 +250,13 @@ void MainForm::UpdateWeapons() {
 void MainForm::cmdDisarm(Weapon weapon) { firing.Disarm(weapon); }
 
 void MainForm::cmdSetWeapon(Weapon weapon) {
-  if (lstWeaponIndex < 0 || lstWeaponIndex >= static_cast<int>(sheet.lstWeapon.size())) return;
-  firing.Ready(weapon, sheet.lstWeapon[static_cast<std::size_t>(lstWeaponIndex)].text, rangeTable);
+  const std::string* line = sheet.Line(SheetList::Weapon, itemInfo.Marked(SheetList::Weapon));
+  if (line != nullptr) firing.Ready(weapon, *line, rangeTable);
 }
 
 void MainForm::ChooseSkill(SkillUse use) {
-  if (lstActiveIndex < 0 || lstActiveIndex >= static_cast<int>(sheet.lstActive.size())) return;
-  skillTests.ChooseSkill(use, sheet.lstActive[static_cast<std::size_t>(lstActiveIndex)]);
-}
-
-void MainForm::ShowReference(const std::vector<CarriedLine>& list, int index) {
-  if (index < 0 || index >= static_cast<int>(list.size())) {
-    statusMessage = "Mark a line of the list first";
-    return;
-  }
-  const std::string item = CleanItemText(list[static_cast<std::size_t>(index)].text);
-  const std::string name(Trimmed(Piece(item, '\t', 0)));
-  // Weapons may stand there without their class code.
-  const std::string plain(Trimmed(std::string_view(name).substr(0, name.rfind('('))));
-  if (!reference.ShowEntry(name) && !reference.ShowEntry(plain)) {
-    statusMessage = "The reference file says nothing about " + name;
-  }
+  const std::string* line = sheet.Line(SheetList::Active, itemInfo.Marked(SheetList::Active));
+  if (line != nullptr) skillTests.ChooseSkill(use, *line);
 }
 
 void MainForm::ShowRoller() {
@@ -382,11 +369,7 @@ void MainForm::tabMain_Click(int page) {
 
 void MainForm::XFerPC(Slot slot) {
   const PlayerRecord& record = fight.Players[slot];
-  if (slot != fight.CurrentPCpointer) {
-    lstActiveIndex = -1;
-    lstWeaponIndex = -1;
-    lstGearIndex = -1;
-  }
+  if (slot != fight.CurrentPCpointer) itemInfo.MarkNothing();
   fight.CurrentPCpointer = slot;
   header.Show(record);
   damage.Show(record);

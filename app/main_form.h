@@ -6,6 +6,7 @@
 
 #include "app/fight_files.h"
 #include "app/help_form.h"
+#include "app/info_form.h"
 #include "app/options_form.h"
 #include "app/settings.h"
 #include "base/ports.h"
@@ -105,10 +106,8 @@ class MainForm : private SequencerHost {
   Firing firing;
   SkillTests skillTests;
   FightFiles fightFiles;
-  /// The lines marked in the lists, -1 for none.
-  int lstActiveIndex = -1;
-  int lstWeaponIndex = -1;
-  int lstGearIndex = -1;
+  /// Knows the lines marked in the lists, too.
+  InfoForm itemInfo;
   std::string txtNotes;
   std::string txtNoteFileName;
   bool statusBarVisible = true;
@@ -194,12 +193,8 @@ class MainForm : private SequencerHost {
   void cmdSetWeapon(Weapon weapon);
   /// Uses the marked line of the active skills.
   void ChooseSkill(SkillUse use);
-  void lstActive_Select(int index) { lstActiveIndex = index; }
-  void lstWeapon_Select(int index) { lstWeaponIndex = index; }
-  void lstGear_Select(int index) { lstGearIndex = index; }
-  /// Looks the marked weapon or gear up in the reference file.
-  void cmdInfoWeapon() { ShowReference(sheet.lstWeapon, lstWeaponIndex); }
-  void cmdInfoGear() { ShowReference(sheet.lstGear, lstGearIndex); }
+  /// Shows every figure of the line that was marked last in any list.
+  void mnuViewInfo() { itemInfo.Form_Load(); }
   /// Shows the dice roller; says in the status bar when the options have switched it off.
   void ShowRoller();
   void lstArmor_Check(int index);
@@ -241,7 +236,6 @@ class MainForm : private SequencerHost {
   /// Shows what an action may have changed of the displayed combatant.
   void ShowHeader() { header.Show(fight.Players[fight.CurrentPCpointer]); }
   void UpdateWeapons();
-  void ShowReference(const std::vector<CarriedLine>& list, int index);
   bool WieldsInMelee(Weapon weapon) const;
   void ToggleCarried(std::vector<CarriedLine> CharacterEntry::*list, int index);
 

@@ -42,6 +42,11 @@ const CarriedLine* MainArmour(const std::vector<CarriedLine>& lines) {
 
 }  // namespace
 
+LoadWeights WeightsOf(const CharacterEntry& entry) {
+  return {CarriedWeight(entry.armour, kArmourWeight), CarriedWeight(entry.weapons, kWeaponWeight),
+          CarriedWeight(entry.gear, kGearWeight)};
+}
+
 bool IsBoneLace(const CarriedLine& line) { return Contains(line.text, "Bone Lace"); }
 
 ArmourFigures DeriveArmour(const CharacterEntry& entry) {
@@ -63,9 +68,8 @@ ArmourFigures DeriveArmour(const CharacterEntry& entry) {
   const Integer excess = std::max(figures.ballistic, figures.impact) - quickness;
   figures.combatPoolModifier = std::max(excess.Value(), 0) / 2;
   figures.quicknessModifier = std::max<Integer>(plainBallistic - quickness, 0);
-  figures.weight = CarriedWeight(entry.armour, kArmourWeight) +
-                   CarriedWeight(entry.weapons, kWeaponWeight) +
-                   CarriedWeight(entry.gear, kGearWeight);
+  const LoadWeights weights = WeightsOf(entry);
+  figures.weight = weights.armour + weights.weapons + weights.gear;
   return figures;
 }
 

@@ -19,6 +19,16 @@ struct ArmourFigures {
   double weight = 0;
 };
 
+/// Weights in kilograms of what is worn and carried.
+struct LoadWeights {
+  double armour = 0;
+  double weapons = 0;
+  double gear = 0;
+};
+
+/// Adds up the lines that are marked; what is not worn or carried weighs nothing.
+LoadWeights WeightsOf(const CharacterEntry& entry);
+
 /// Whether a line is the armour of laced bones, which counts in full and is never the main armour.
 bool IsBoneLace(const CarriedLine& line);
 

@@ -4,6 +4,64 @@
 #include "base/text.h"
 
 namespace ng {
+namespace {
+
+template <typename Line>
+const Line* LineAt(const std::vector<Line>& lines, int index) {
+  if (index < 0 || static_cast<std::size_t>(index) >= lines.size()) return nullptr;
+  return &lines[static_cast<std::size_t>(index)];
+}
+
+/// "Weapons – 8.25 carried".
+std::string Titled(const char* title, double weight, const char* mark) {
+  const std::string number = (weight < 1 ? "0" : "") + TwoDecimals(weight);
+  return std::string(title) + " \x96 " + number + " " + mark;
+}
+
+}  // namespace
+
+const std::vector<CarriedLine>* SheetPanel::CarriedLines(SheetList list) const {
+  switch (list) {
+    case SheetList::Weapon:
+      return &lstWeapon;
+    case SheetList::Armor:
+      return &lstArmor;
+    case SheetList::Gear:
+      return &lstGear;
+    default:
+      return nullptr;
+  }
+}
+
+const std::vector<std::string>& SheetPanel::TextLines(SheetList list) const {
+  switch (list) {
+    case SheetList::Active:
+      return lstActive;
+    case SheetList::Other:
+      return lstOther;
+    case SheetList::Magic:
+      return lstMagic;
+    case SheetList::Edges:
+      return lstEdges;
+    case SheetList::Augments:
+      return lstAugments;
+    case SheetList::Contacts:
+      return lstContacts;
+    default:
+      return lstRace;
+  }
+}
+
+const CarriedLine* SheetPanel::Carried(SheetList list, int index) const {
+  const std::vector<CarriedLine>* lines = CarriedLines(list);
+  return lines == nullptr ? nullptr : LineAt(*lines, index);
+}
+
+const std::string* SheetPanel::Line(SheetList list, int index) const {
+  if (CarriedLines(list) == nullptr) return LineAt(TextLines(list), index);
+  const CarriedLine* line = Carried(list, index);
+  return line == nullptr ? nullptr : &line->text;
+}
 
 void SheetPanel::ShowCharacter(const CharacterEntry* entry) {
   static const CharacterEntry kNobody;
@@ -20,6 +78,10 @@ void SheetPanel::ShowCharacter(const CharacterEntry* entry) {
   lstArmor = sheet.armour;
   lstGear = sheet.gear;
   lstWeapon = sheet.weapons;
+  const LoadWeights weights = WeightsOf(sheet);
+  grpWeapon = Titled("Weapons", weights.weapons, "carried");
+  grpArmor = Titled("Armour", weights.armour, "worn");
+  grpGear = Titled("Gear", weights.gear, "carried");
   lstActive.clear();
   lstOther.clear();
   for (const std::string& skill : sheet.skills) {

@@ -10,6 +10,10 @@
 
 namespace ng {
 
+/// The lists of the pages.
+enum class SheetList { Weapon, Armor, Gear, Active, Other, Magic, Edges, Augments, Contacts, Race };
+constexpr std::size_t kSheetLists = 10;
+
 /// The sheet of the displayed combatant as the main window's pages show it.
 struct SheetPanel {
   std::array<std::string, kAttributeCount> lblAttr;
@@ -42,6 +46,16 @@ struct SheetPanel {
   std::string lblWeight2;
   std::string lblLWght;
 
+  /// The titles of the three lists with marks, with the weight that is worn or carried of each.
+  std::string grpWeapon;
+  std::string grpArmor;
+  std::string grpGear;
+
+  /// A line of a list, null when there is none.
+  const std::string* Line(SheetList list, int index) const;
+  /// The same for the lists with marks; null for the others.
+  const CarriedLine* Carried(SheetList list, int index) const;
+
   /// Fills the labels and lists from a sheet; null empties them.
   void ShowCharacter(const CharacterEntry* entry);
   /// Shows the armour fields and the weight of a record.
@@ -51,6 +65,8 @@ struct SheetPanel {
   void ShowFigures(const ArmourFigures& figures);
 
  private:
+  const std::vector<std::string>& TextLines(SheetList list) const;
+  const std::vector<CarriedLine>* CarriedLines(SheetList list) const;
   void ShowWeight(double weight);
 };
 

@@ -132,12 +132,12 @@ std::string ConvertSkill(const SkillTable& table, std::string_view name) {
       if (Contains(name, text)) return entry.code;
     }
   }
-  return "Not Found";
+  return kNotFound;
 }
 
 bool IsMeleeWeaponType(std::string_view code) {
-  constexpr std::array<std::string_view, 7> kMelee = {"CLB", "Taser", "CYB",      "EDG",
-                                                      "POL", "WHP",   "Not Found"};
+  constexpr std::array<std::string_view, 7> kMelee = {"CLB", "Taser", "CYB",    "EDG",
+                                                      "POL", "WHP",   kNotFound};
   return std::find(kMelee.begin(), kMelee.end(), code) != kMelee.end();
 }
 

@@ -110,8 +110,11 @@ int GearColumnIndex(const GearTable& table, Integer category, std::string_view c
 /// The field at `index` of a "|"-separated list; empty when the index is -1 or the list is shorter.
 std::string_view GearField(std::string_view fields, int index);
 
+/// The weapon type of a skill that the conversion table does not know.
+inline constexpr const char* kNotFound = "Not Found";
+
 /// The weapon-type code of the first entry one of whose texts `name` contains (case counts), else
-/// "Not Found".
+/// `kNotFound`.
 std::string ConvertSkill(const SkillTable& table, std::string_view name);
 
 /// Whether a weapon-type code is a melee one. "Not Found" counts as one, on purpose: a skill that

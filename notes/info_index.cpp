@@ -77,4 +77,13 @@ std::vector<std::string> InfoIndex::EntryLines(Files& files, int index) const {
   return result;
 }
 
+std::string InfoIndex::EntryText(Files& files, int index) const {
+  std::string text;
+  for (const std::string& line : EntryLines(files, index)) {
+    if (!text.empty()) text += "\r\n";
+    text += line;
+  }
+  return text;
+}
+
 }  // namespace ng

@@ -40,6 +40,8 @@ class InfoIndex {
   /// become too short or the entry is not there. Throws the platform's file errors, Subscript out
   /// of range for an index outside 0 to 200.
   std::vector<std::string> EntryLines(Files& files, int index) const;
+  /// The same as one text, its lines ended by CR LF.
+  std::string EntryText(Files& files, int index) const;
 
  private:
   std::string Index(std::string_view text);

@@ -19,12 +19,7 @@ void ReferenceForm::lstNames_Select(int index) {
   const bool there = index >= 0 && index < static_cast<int>(entries_.size());
   lstNamesIndex = there ? index : -1;
   txtEntry.clear();
-  if (!there) return;
-  for (const std::string& line :
-       info_.EntryLines(files_, entries_[static_cast<std::size_t>(index)])) {
-    if (!txtEntry.empty()) txtEntry += "\r\n";
-    txtEntry += line;
-  }
+  if (there) txtEntry = info_.EntryText(files_, entries_[static_cast<std::size_t>(index)]);
 }
 
 bool ReferenceForm::ShowEntry(const std::string& name) {

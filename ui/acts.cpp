@@ -102,6 +102,12 @@ class Connector {
                          QTreeWidgetItem* item = tree.selectedItems().constFirst();
                          perform({select.control, tree.indexOfTopLevelItem(item), {}});
                        });
+      // Enter and a double click ask what is known of the line.
+      QObject::connect(&tree, &QTreeWidget::itemActivated, &owner_,
+                       [select, &tree, perform = perform_](QTreeWidgetItem* item) {
+                         perform({select.control, tree.indexOfTopLevelItem(item), {}});
+                         perform({"mnuViewInfo"});
+                       });
     }
   }
 

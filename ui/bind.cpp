@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -82,6 +83,8 @@ void ShowText(QObject* widget, const QString& text) {
     MarkNonZero(*line);
   } else if (auto* note = qobject_cast<QPlainTextEdit*>(widget)) {
     ShowNote(*note, text);
+  } else if (auto* group = qobject_cast<QGroupBox*>(widget)) {
+    if (group->title() != text) group->setTitle(text);
   }
 }
 

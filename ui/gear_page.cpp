@@ -58,13 +58,14 @@ QHBoxLayout* MakeHandRow(QWidget* parent) {
                  8);
   row->addStretch(1);
   row->addWidget(MakeWideButton({"cmdInfoWeapon", "Info on the marked weapon",
-                                 "Show what the reference says of the marked weapon"},
+                                 TipWithKey("Show every figure of the marked weapon", "Enter")},
                                 "&Info", kInfoButton, parent));
   return row;
 }
 
 QGroupBox* MakeWeapons(QWidget* parent) {
   QGroupBox* group = MakeGroup("Weapons", parent);
+  group->setObjectName("grpWeapon");
   QVBoxLayout* rows = MakeGroupRows(group);
   rows->setSpacing(6);
   rows->addWidget(
@@ -102,11 +103,16 @@ QHBoxLayout* MakeArmourFigures(QWidget* parent) {
   weight->setToolTip("Weight of everything worn and carried");
   HoldWeight(*weight);
   row->addWidget(weight);
+  row->addSpacing(4);
+  row->addWidget(MakeWideButton({"cmdInfoArmor", "Info on the marked armour",
+                                 TipWithKey("Show every figure of the marked armour", "Enter")},
+                                "Inf&o", kInfoButton, parent));
   return row;
 }
 
 QGroupBox* MakeArmour(QWidget* parent) {
   QGroupBox* group = MakeGroup("Armour", parent);
+  group->setObjectName("grpArmor");
   QVBoxLayout* rows = MakeGroupRows(group);
   rows->setSpacing(6);
   rows->addWidget(MakeList({"lstArmor", "Armour", "Check mark: worn"},
@@ -122,6 +128,7 @@ QGroupBox* MakeArmour(QWidget* parent) {
 
 QGroupBox* MakeGear(QWidget* parent) {
   QGroupBox* group = MakeGroup("Gear", parent);
+  group->setObjectName("grpGear");
   QVBoxLayout* rows = MakeGroupRows(group);
   rows->setSpacing(6);
   rows->addWidget(MakeList({"lstGear", "Gear", "Check mark: carried"},
@@ -134,9 +141,9 @@ QGroupBox* MakeGear(QWidget* parent) {
   weight->setToolTip("Weight of everything worn and carried");
   HoldWeight(*weight);
   QHBoxLayout* row = MakeRow(6);
-  row->addWidget(MakeWideButton(
-      {"cmdInfoGear", "Info on the marked gear", "Show what the reference says of the marked gear"},
-      "I&nfo", kInfoButton, group));
+  row->addWidget(MakeWideButton({"cmdInfoGear", "Info on the marked gear",
+                                 TipWithKey("Show every figure of the marked gear", "Enter")},
+                                "I&nfo", kInfoButton, group));
   row->addWidget(weight, 1);
   rows->addLayout(row);
   return group;

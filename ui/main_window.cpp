@@ -25,6 +25,7 @@
 #include "ui/gear_page.h"
 #include "ui/header_panel.h"
 #include "ui/help_window.h"
+#include "ui/info_window.h"
 #include "ui/initiative_grid_view.h"
 #include "ui/legend.h"
 #include "ui/list_paint.h"
@@ -82,8 +83,7 @@ MainWindow::MainWindow(Session& session) : session_(session) {
   auto* toGrid = new QShortcut(QKeySequence(Qt::Key_Escape), this);
   connect(toGrid, &QShortcut::activated, this,
           [this] { grid_->setFocus(Qt::ShortcutFocusReason); });
-  activeSkills_ = findChild<QTreeWidget*>(QStringLiteral("lstActive"));
-  weapons_ = findChild<QTreeWidget*>(QStringLiteral("lstWeapon"));
+  FindLists();
   AddButtonKeys(*this);
   new FileDrop(*this, perform);
   binder_ = std::make_unique<Binder>(*this, perform);
@@ -162,8 +162,7 @@ void MainWindow::PaintAll() {
   const MainForm& form = session_.main;
   PaintColours();
   binder_->Paint([&form](ControlVisitor& visitor) { VisitControls(form, visitor); });
-  ShowSelection(*activeSkills_, form.lstActiveIndex);
-  ShowSelection(*weapons_, form.lstWeaponIndex);
+  PaintMarks();
   grid_->SetShownRow(form.ShownRow());
   phase_->FitFont();
   PaintCounts();
@@ -175,21 +174,35 @@ void MainWindow::PaintAll() {
 
 /// Each window beside this one is made when it is first wanted, which keeps the start short; its
 /// form is there from the start.
+template <typename Window>
+void MainWindow::PaintSideWindow(Window*& window, bool wanted) {
+  if (wanted && window == nullptr) window = new Window([this](const Act& act) { Do(act); }, this);
+  if (window != nullptr) window->Paint(session_.main);
+}
+
 void MainWindow::PaintSideWindows() {
   const MainForm& form = session_.main;
-  const Perform perform = [this](const Act& act) { Do(act); };
-  if (form.frmGMOpen && gameMaster_ == nullptr) gameMaster_ = new GmWindow(perform, this);
-  if (form.logViewer.open && log_ == nullptr) log_ = new LogWindow(perform, this);
-  if (form.reference.open && reference_ == nullptr) {
-    reference_ = new ReferenceWindow(perform, this);
+  PaintSideWindow(ngdr_, form.ngdr.visible);
+  PaintSideWindow(gameMaster_, form.frmGMOpen);
+  PaintSideWindow(log_, form.logViewer.open);
+  PaintSideWindow(reference_, form.reference.open);
+  PaintSideWindow(itemInfo_, form.itemInfo.open);
+  PaintSideWindow(help_, form.help.open);
+}
+
+void MainWindow::FindLists() {
+  constexpr std::array<const char*, kSheetLists> kNames = {
+      "lstWeapon", "lstArmor", "lstGear",     "lstActive",   "lstOther",
+      "lstMagic",  "lstEdges", "lstAugments", "lstContacts", "lstRace"};
+  std::ranges::transform(kNames, lists_.begin(), [this](const char* name) {
+    return findChild<QTreeWidget*>(QString::fromLatin1(name));
+  });
+}
+
+void MainWindow::PaintMarks() {
+  for (std::size_t list = 0; list < kSheetLists; ++list) {
+    ShowSelection(*lists_[list], session_.main.itemInfo.Marked(static_cast<SheetList>(list)));
   }
-  if (form.help.open && help_ == nullptr) help_ = new HelpWindow(perform, this);
-  if (form.ngdr.visible && ngdr_ == nullptr) ngdr_ = new RollerWindow(perform, this);
-  if (ngdr_ != nullptr) ngdr_->Paint(form);
-  if (gameMaster_ != nullptr) gameMaster_->Paint(form);
-  if (log_ != nullptr) log_->Paint(form);
-  if (reference_ != nullptr) reference_->Paint(form);
-  if (help_ != nullptr) help_->Paint(form);
 }
 
 void MainWindow::PaintColours() {

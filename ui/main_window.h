@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QMainWindow>
+#include <array>
 #include <memory>
 
+#include "import/character_display.h"
 #include "ui/acts.h"
 
 class QLabel;
@@ -13,6 +15,7 @@ namespace ng {
 class Binder;
 class GmWindow;
 class HelpWindow;
+class InfoWindow;
 class InitiativeGridView;
 class LogWindow;
 class PhaseLabel;
@@ -40,15 +43,19 @@ class MainWindow : public QMainWindow {
   void BuildRightPane(QWidget* parent);
   void BuildStatusBar();
   void Place();
+  void FindLists();
+  void PaintMarks();
   void PaintColours();
   void PaintCounts();
+  template <typename Window>
+  void PaintSideWindow(Window*& window, bool wanted);
   void PaintSideWindows();
 
   Session& session_;
   PhaseLabel* phase_ = nullptr;
   InitiativeGridView* grid_ = nullptr;
-  QTreeWidget* activeSkills_ = nullptr;
-  QTreeWidget* weapons_ = nullptr;
+  /// The lists of the pages, in the order of SheetList.
+  std::array<QTreeWidget*, kSheetLists> lists_{};
   QLabel* combatants_ = nullptr;
   QLabel* combatTurn_ = nullptr;
   QLabel* pass_ = nullptr;
@@ -57,6 +64,7 @@ class MainWindow : public QMainWindow {
   LogWindow* log_ = nullptr;
   ReferenceWindow* reference_ = nullptr;
   HelpWindow* help_ = nullptr;
+  InfoWindow* itemInfo_ = nullptr;
   RollerWindow* ngdr_ = nullptr;
   std::unique_ptr<Binder> binder_;
 };

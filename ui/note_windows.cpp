@@ -64,6 +64,22 @@ void SideWindow::SetOpen(bool open) {
   if (open) activateWindow();
 }
 
+QPlainTextEdit* MakeEntryText(const QString& name, QWidget* parent) {
+  auto* text = new QPlainTextEdit(parent);
+  text->setObjectName(name);
+  text->setAccessibleName(QObject::tr("Text of the entry"));
+  text->setToolTip(QObject::tr("What the reference file says"));
+  text->setReadOnly(true);
+  text->setTabChangesFocus(true);
+  return text;
+}
+
+void ShowEntry(QPlainTextEdit& widget, const std::string& entry) {
+  QString text = ToQString(entry);
+  text.replace(QLatin1Char('|'), QLatin1Char('\n')).remove(QLatin1Char('\r'));
+  if (widget.toPlainText() != text) widget.setPlainText(text);
+}
+
 GmWindow::GmWindow(const Perform& perform, QWidget* parent)
     : SideWindow(QStringLiteral("frmGM"), tr("Game Master"), "frmGM.Close", perform, parent) {
   resize(420, 350);
@@ -140,11 +156,7 @@ ReferenceWindow::ReferenceWindow(const Perform& perform, QWidget* parent)
   filter_->setClearButtonEnabled(true);
   names_ = MakePlainList(
       {QStringLiteral("lstNames"), tr("Entries"), tr("The entries of the reference file")}, this);
-  entry_ = new QPlainTextEdit(this);
-  entry_->setObjectName(QStringLiteral("txtEntry"));
-  entry_->setAccessibleName(tr("Text of the entry"));
-  entry_->setToolTip(tr("What the reference file says"));
-  entry_->setReadOnly(true);
+  entry_ = MakeEntryText(QStringLiteral("txtEntry"), this);
   connect(filter_, &QLineEdit::textEdited, this, [this](const QString& text) {
     Do({"frmReference.txtFilter", 0, FromQString(text)});
   });
@@ -171,10 +183,7 @@ void ReferenceWindow::Paint(const MainForm& form) {
     const QSignalBlocker quiet(*names_);
     names_->setCurrentItem(names_->topLevelItem(reference.lstNamesIndex));
   }
-  // The fields of an entry stand below one another.
-  QString text = ToQString(reference.txtEntry);
-  text.replace(QLatin1Char('|'), QLatin1Char('\n')).remove(QLatin1Char('\r'));
-  if (entry_->toPlainText() != text) entry_->setPlainText(text);
+  ShowEntry(*entry_, reference.txtEntry);
   const bool opens = reference.open && !isVisible();
   SetOpen(reference.open);
   if (opens) filter_->setFocus();

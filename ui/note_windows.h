@@ -32,6 +32,11 @@ class SideWindow : public QDialog {
   Perform perform_;
 };
 
+/// A read-only text of the reference file, named as told.
+QPlainTextEdit* MakeEntryText(const QString& name, QWidget* parent);
+/// Shows an entry, its fields below one another.
+void ShowEntry(QPlainTextEdit& widget, const std::string& entry);
+
 /// The game master's list of notes.
 class GmWindow : public SideWindow {
   Q_OBJECT

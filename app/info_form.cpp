@@ -1,0 +1,112 @@
+#include "app/info_form.h"
+
+#include "app/main_form.h"
+#include "base/number_text.h"
+#include "base/text.h"
+#include "import/item_figures.h"
+
+namespace ng {
+namespace {
+
+/// What the columns behind the name hold, for lines that the gear table tells nothing about.
+struct ListColumns {
+  SheetList list;
+  std::array<const char*, 5> names;
+};
+constexpr std::array<ListColumns, 6> kColumns = {{
+    {SheetList::Weapon, {"Damage", "Concealability", "Figures", "Ammunition", "Weight"}},
+    {SheetList::Armor, {"Concealability", "Ballistic", "Impact", "Weight"}},
+    {SheetList::Active, {"Rating"}},
+    {SheetList::Other, {"Rating"}},
+    {SheetList::Edges, {"Points"}},
+    {SheetList::Contacts, {"Level"}},
+}};
+
+/// "CYB: ", "SPL: " and the like tell where a line comes from and are no part of the name.
+constexpr std::size_t kMarkLength = 5;
+
+std::string WithoutMark(SheetList list, const std::string& name) {
+  const bool marked = list == SheetList::Augments || list == SheetList::Magic;
+  if (!marked || name.size() <= kMarkLength || name[kMarkLength - 2] != ':') return name;
+  return name.substr(kMarkLength);
+}
+
+/// A weapon may stand in the reference file without its class code.
+std::string WithoutClass(const std::string& name) {
+  return std::string(Trimmed(std::string_view(name).substr(0, name.rfind('('))));
+}
+
+std::string Row(std::string_view name, std::string_view value) {
+  return std::string(name) + '\t' + std::string(value);
+}
+
+}  // namespace
+
+void InfoForm::Mark(SheetList list, int index) {
+  marked_[static_cast<std::size_t>(list)] = index;
+  list_ = list;
+  if (open) Fill();
+}
+
+void InfoForm::Form_Load() {
+  open = true;
+  Fill();
+}
+
+void InfoForm::Form_Load(SheetList list) {
+  list_ = list;
+  Form_Load();
+}
+
+void InfoForm::Fill() {
+  lstFigures.clear();
+  txtReference.clear();
+  const std::string* line = form_.sheet.Line(list_, Marked(list_));
+  if (line == nullptr) {
+    lblItem = "Mark a line of a list first";
+    return;
+  }
+  const std::string text = CleanItemText(*line);
+  lblItem = Trimmed(Piece(text, '\t', 0));
+  FillFigures(text);
+  FillReference(WithoutMark(list_, lblItem));
+}
+
+void InfoForm::FillFigures(const std::string& line) {
+  const CarriedLine* item = form_.sheet.Carried(list_, Marked(list_));
+  const CharacterEntry* entry =
+      form_.characters.Of(form_.fight.Players[form_.fight.CurrentPCpointer]);
+  if (item != nullptr && entry != nullptr) {
+    for (const Figure& figure : FiguresOf(form_.gearTable, *entry, *item)) {
+      lstFigures.push_back(Row(figure.name, figure.value));
+    }
+  }
+  if (lstFigures.empty()) {
+    for (const ListColumns& columns : kColumns) {
+      if (columns.list != list_) continue;
+      for (int i = 0; i < static_cast<int>(columns.names.size()); ++i) {
+        const std::string_view value = Piece(line, '\t', i + 1);
+        if (!value.empty()) {
+          lstFigures.push_back(Row(columns.names[static_cast<std::size_t>(i)], value));
+        }
+      }
+    }
+  }
+  if (list_ == SheetList::Active) {
+    const std::string type = ConvertSkill(form_.skillTable, lblItem);
+    if (type != kNotFound) lstFigures.push_back(Row("Weapon type", type));
+  }
+  if (item != nullptr) {
+    const char* mark = list_ == SheetList::Armor ? "Worn" : "Carried";
+    lstFigures.push_back(Row(mark, item->carried ? "yes" : "no"));
+  }
+}
+
+void InfoForm::FillReference(const std::string& name) {
+  const InfoIndex& info = form_.info;
+  int entry = info.Find(name);
+  if (entry < 0) entry = info.Find(WithoutClass(name));
+  if (entry >= 0) txtReference = info.EntryText(files_, entry);
+}
+
+}  // namespace ng
