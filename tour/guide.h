@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QDialog>
+#include <QDir>
+#include <QPointer>
+#include <QTimer>
+#include <deque>
+#include <functional>
+
+#include "tour/watchdog.h"
+
+namespace ng {
+
+/// Leads through the windows: presses what stands in them, answers those that open, takes their
+/// pictures, and prints a line for each thing it does. Where something is not as it was planned the
+/// tour breaks off: the program ends with a status other than 0 and says where it stood.
+class Guide {
+ public:
+  using Drive = std::function<void(QDialog&)>;
+
+  /// The pictures are written into `folder`.
+  explicit Guide(const QString& folder);
+
+  void Say(const QString& line);
+  [[noreturn]] void BreakOff(const QString& why);
+
+  /// Writes the picture of an open window to NAME.png, once the window has stopped changing.
+  void Take(QWidget& window, const char* name);
+  bool AllWritten() const { return allWritten_; }
+
+  /// Drives the next modal window that opens, and has to close it. Several wait in a row.
+  void InNextWindow(Drive drive) { drives_.push_back(std::move(drive)); }
+  /// From now on message boxes that nobody waits for are read out and closed, or break the tour off.
+  void ReadOutMessages(bool wanted) { readsMessages_ = wanted; }
+
+  template <typename Widget>
+  Widget& Find(QWidget& window, const char* name) {
+    auto* widget = window.findChild<Widget*>(QString::fromLatin1(name));
+    if (widget == nullptr) BreakOff(QStringLiteral("there is no ") + QString::fromLatin1(name));
+    return *widget;
+  }
+
+  /// Presses a button, or chooses a menu entry. When it returns, the windows that were to be driven
+  /// have come and gone.
+  void Press(QWidget& window, const char* name);
+  /// Takes the picture of the window that a button or menu entry opens, modal or not, and closes
+  /// the window again.
+  void TakeWindowOf(QWidget& window, const char* name, const char* picture);
+
+ private:
+  void Trigger(QWidget& window, const char* name);
+  void AnswerModalWindow();
+
+  Watchdog watchdog_;
+  QDir folder_;
+  bool allWritten_ = true;
+  bool readsMessages_ = false;
+  std::deque<Drive> drives_;
+  /// The window that is being driven.
+  QPointer<QDialog> driven_;
+  QTimer watch_;
+};
+
+/// A click with the left button.
+void ClickAt(QWidget& widget, const QPoint& place);
+void PressKey(QWidget& widget, Qt::Key key);
+
+}  // namespace ng

@@ -1,0 +1,86 @@
+// Plays a fight with the sample campaign through the real windows, off screen, and writes a picture
+// of each window into a folder: ng_tour [--dark] [--scale FACTOR] FOLDER.
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <clocale>
+#include <cstdio>
+
+#include "tour/guide.h"
+#include "tour/sample_fight.h"
+#include "tour/sample_program.h"
+#include "ui/icons.h"
+#include "ui/splash.h"
+#include "ui/theme.h"
+
+namespace ng {
+namespace {
+
+struct Wishes {
+  QString folder;
+  bool dark = false;
+  QByteArray scale = "1";
+};
+
+/// Returns whether the arguments make sense. They are needed before there is an application.
+bool Understand(const QStringList& arguments, Wishes& wishes) {
+  QCommandLineParser parser;
+  parser.addOptions({{QStringLiteral("dark"), {}},
+                     {QStringLiteral("scale"), {}, QStringLiteral("factor"), QStringLiteral("1")}});
+  if (!parser.parse(arguments) || parser.positionalArguments().size() != 1) return false;
+  wishes.folder = parser.positionalArguments().constFirst();
+  wishes.dark = parser.isSet(QStringLiteral("dark"));
+  wishes.scale = parser.value(QStringLiteral("scale")).toLatin1();
+  return wishes.scale.toDouble() > 0;
+}
+
+void ShowStart(Guide& guide, const Theme& theme) {
+  SampleProgram program(theme);
+  Splash splash;
+  splash.show();
+  guide.Take(splash, "splash");
+  splash.hide();
+  guide.Say(QStringLiteral("The first start asks for the directories"));
+  guide.InNextWindow([&guide](QDialog& dialog) {
+    guide.Take(dialog, "first-start");
+    dialog.reject();
+  });
+  program.Run(SampleProgram::Start::First);
+}
+
+int Tour(const Wishes& wishes) {
+  if (!QDir().mkpath(wishes.folder)) {
+    std::fprintf(stderr, "cannot make the folder %s\n", qPrintable(wishes.folder));
+    return 2;
+  }
+  const Theme& theme = wishes.dark ? Theme::Dark() : Theme::Light();
+  Guide guide(wishes.folder);
+  ShowStart(guide, theme);
+  SampleProgram program(theme);
+  PlaySampleFight(guide, program);
+  return guide.AllWritten() ? 0 : 1;
+}
+
+}  // namespace
+}  // namespace ng
+
+int main(int argc, char* argv[]) {
+  QStringList arguments;
+  for (int i = 0; i < argc; ++i) arguments += QString::fromLocal8Bit(argv[i]);
+  ng::Wishes wishes;
+  if (!ng::Understand(arguments, wishes)) {
+    std::fputs("usage: ng_tour [--dark] [--scale FACTOR] FOLDER\n", stderr);
+    return 2;
+  }
+  qputenv("QT_SCALE_FACTOR", wishes.scale);
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+  QApplication application(argc, argv);
+  std::setlocale(LC_NUMERIC, "C");
+  QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setApplicationName(QStringLiteral("NGtracker"));
+  QApplication::setWindowIcon(ng::ApplicationIcon());
+  // A text cursor that comes and goes would make every picture another one.
+  QApplication::setCursorFlashTime(0);
+  return ng::Tour(wishes);
+}

@@ -1,0 +1,32 @@
+#include "tour/sample_program.h"
+
+#include <QApplication>
+#include <QSettings>
+
+#include "ui/path_text.h"
+#include "ui/theme.h"
+
+namespace ng {
+
+SampleProgram::SampleProgram(const Theme& theme)
+    : session({files_, uniform_, prompts_, userSettings_, {{}, PathText(folder_.path())}, {}}) {
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder_.path());
+  prompts_.Attach(session);
+  session.main.darkColours = theme.dark;
+  ApplyTheme(*qApp, theme);
+}
+
+void SampleProgram::Run(Start start) {
+  std::string settings = "[NGtracker]\r\n";
+  if (start == Start::Later) settings += "NG3Dir=" NG_SAMPLE "/characters\r\n";
+  settings += "DatDir=" NG_SAMPLE "/DATA\r\n";
+  files_.Replace(PathText(OwnFile("tracker.ini")), settings);
+  Main(session, *this);
+}
+
+void SampleProgram::LoadMain() {
+  window = std::make_unique<MainWindow>(session);
+  prompts_.SetMainWindow(*window, [this] { window->PaintAll(); });
+}
+
+}  // namespace ng

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QTemporaryDir>
+#include <memory>
+
+#include "app/startup.h"
+#include "base/seeded_uniform.h"
+#include "platform/files.h"
+#include "platform/user_settings.h"
+#include "ui/main_window.h"
+#include "ui/prompts.h"
+
+namespace ng {
+
+struct Theme;
+
+/// The whole program on the sample campaign: the real windows over the real files. Its own files
+/// and the user's settings stand in a directory that goes with it, and its dice fall the same way
+/// every time.
+class SampleProgram : private StartupWindows {
+ private:
+  QTemporaryDir folder_;
+  NativeFiles files_;
+  NativeUserSettings userSettings_;
+  SeededUniform uniform_{20461};
+  QtPrompts prompts_;
+
+ public:
+  /// Whether the settings name the directory of characters already.
+  enum class Start { First, Later };
+
+  explicit SampleProgram(const Theme& theme);
+  void Run(Start start);
+
+  /// The native path of a file in the program's directory.
+  QString OwnFile(const char* name) const {
+    return folder_.filePath(QString::fromLatin1(name));
+  }
+
+  Session session;
+  /// Null until the program runs.
+  std::unique_ptr<MainWindow> window;
+
+ private:
+  void ShowSplash() override {}
+  void LoadMain() override;
+  void UnloadSplash() override {}
+  void ShowMain() override { window->show(); }
+};
+
+}  // namespace ng
