@@ -79,8 +79,13 @@ void Guide::Take(QWidget& window, const char* name) {
   if (!settled) BreakOff(QString::fromLatin1(name) + QLatin1String(": the window does not settle"));
   const QString file = folder_.filePath(QString::fromLatin1(name) + QLatin1String(".png"));
   const bool written = picture.save(file);
-  allWritten_ = allWritten_ && written;
+  ++(written ? written_ : missing_);
   Say((written ? QStringLiteral("  ") : QStringLiteral("  could not write ")) + file);
+}
+
+bool Guide::Finish() {
+  Say(QStringLiteral("%1 pictures written, %2 missing").arg(written_).arg(missing_));
+  return missing_ == 0;
 }
 
 void Guide::Press(QWidget& window, const char* name) {
@@ -109,14 +114,15 @@ void Guide::TakeWindowOf(QWidget& window, const char* name, const char* picture)
 }
 
 void Guide::Trigger(QWidget& window, const char* name) {
-  if (auto* action = window.findChild<QAction*>(QString::fromLatin1(name))) return action->trigger();
+  if (auto* action = window.findChild<QAction*>(QString::fromLatin1(name)))
+    return action->trigger();
   Find<QAbstractButton>(window, name).click();
 }
 
 void Guide::AnswerModalWindow() {
-  const QPointer<QDialog> dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+  auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
   if (dialog == nullptr || !dialog->isVisible() || dialog == driven_) return;
-  auto* message = qobject_cast<QMessageBox*>(dialog.data());
+  auto* message = qobject_cast<QMessageBox*>(dialog);
   if (drives_.empty()) {
     if (!readsMessages_ || message == nullptr) {
       BreakOff(QStringLiteral("unexpected window: ") + dialog->windowTitle() + QLatin1Char(' ') +
@@ -127,11 +133,9 @@ void Guide::AnswerModalWindow() {
   }
   const Drive drive = std::move(drives_.front());
   drives_.pop_front();
-  const QPointer<QDialog> outer = std::exchange(driven_, dialog);
+  const QDialog* outer = std::exchange(driven_, dialog);
   drive(*dialog);
-  if (dialog != nullptr && dialog->isVisible()) {
-    BreakOff(QStringLiteral("left open: ") + dialog->windowTitle());
-  }
+  if (dialog->isVisible()) BreakOff(QStringLiteral("left open: ") + dialog->windowTitle());
   driven_ = outer;
 }
 

@@ -2,7 +2,6 @@
 
 #include <QDialog>
 #include <QDir>
-#include <QPointer>
 #include <QTimer>
 #include <deque>
 #include <functional>
@@ -26,11 +25,13 @@ class Guide {
 
   /// Writes the picture of an open window to NAME.png, once the window has stopped changing.
   void Take(QWidget& window, const char* name);
-  bool AllWritten() const { return allWritten_; }
+  /// Says how many pictures there are. Returns whether none is missing.
+  bool Finish();
 
   /// Drives the next modal window that opens, and has to close it. Several wait in a row.
   void InNextWindow(Drive drive) { drives_.push_back(std::move(drive)); }
-  /// From now on message boxes that nobody waits for are read out and closed, or break the tour off.
+  /// From now on message boxes that nobody waits for are read out and closed, or break the tour
+  /// off.
   void ReadOutMessages(bool wanted) { readsMessages_ = wanted; }
 
   template <typename Widget>
@@ -53,11 +54,12 @@ class Guide {
 
   Watchdog watchdog_;
   QDir folder_;
-  bool allWritten_ = true;
+  int written_ = 0;
+  int missing_ = 0;
   bool readsMessages_ = false;
   std::deque<Drive> drives_;
-  /// The window that is being driven.
-  QPointer<QDialog> driven_;
+  /// The window that is being driven; null for none.
+  const QDialog* driven_ = nullptr;
   QTimer watch_;
 };
 

@@ -18,6 +18,7 @@ namespace ng {
 namespace {
 
 constexpr QSize kUsualSize(1280, 800);
+constexpr int kCharacters = 8;
 
 /// A window that a menu entry or a button opens as it is; a further one is a further row.
 struct PlainWindow {
@@ -41,15 +42,16 @@ class SampleFight {
     Begin();
     Import();
     ArmVex();
-    StepToVex();
+    RollInitiative();
     Refuse();
     Shoot();
     FightByHand();
     Suffer();
+    LetOthersAct();
     TakePages();
     TakePlainWindows();
-    SaveAndRestore();
     FinishTurn();
+    SaveAndRestore();
     End();
   }
 
@@ -57,15 +59,16 @@ class SampleFight {
   void Begin();
   void Import();
   void ArmVex();
-  void StepToVex();
+  void RollInitiative();
   void Refuse();
   void Shoot();
   void FightByHand();
   void Suffer();
+  void LetOthersAct();
   void TakePages();
   void TakePlainWindows();
-  void SaveAndRestore();
   void FinishTurn();
+  void SaveAndRestore();
   void End();
 
   void Say(const char* line) { guide_.Say(QString::fromUtf8(line)); }
@@ -79,6 +82,7 @@ class SampleFight {
   RollerWindow& Roller() { return Find<RollerWindow>("ngdr"); }
 
   void Next();
+  void StepToVex();
   void Display(const QString& name);
   void OpenPage(int page) { Find<QTabWidget>("tabMain").setCurrentIndex(page); }
   void Mark(const char* list, const QString& beginning);
@@ -102,8 +106,8 @@ void SampleFight::Import() {
   Say("Eight characters are imported");
   guide_.InNextWindow([this](QDialog& dialog) {
     auto& files = guide_.Find<QListWidget>(dialog, "filesXML");
-    for (const char* name : {"brand", "ganger", "hound", "old marrow", "pike warden", "sable",
-                             "tollkeeper", "vex"}) {
+    for (const char* name :
+         {"brand", "ganger", "hound", "old marrow", "pike warden", "sable", "tollkeeper", "vex"}) {
       const auto found =
           files.findItems(QString::fromLatin1(name) + QLatin1String(".ng3"), Qt::MatchExactly);
       if (found.size() != 1) guide_.BreakOff(QStringLiteral("a sample character is missing"));
@@ -113,7 +117,7 @@ void SampleFight::Import() {
     guide_.Press(dialog, "cmdLoad");
   });
   Press("mnuFileOpen");
-  if (program_.session.main.GridX.RowCount() != 8) {
+  if (program_.session.main.GridX.RowCount() != kCharacters) {
     guide_.BreakOff(QStringLiteral("not every character was imported"));
   }
 }
@@ -137,15 +141,16 @@ void SampleFight::ArmVex() {
   Press("cmdMeleeSkill");
 }
 
-/// Whoever comes before Vex throws a grenade and puts the next action off.
-void SampleFight::StepToVex() {
-  Say("Initiative is rolled");
+void SampleFight::RollInitiative() {
+  Say("Initiative is rolled, and everybody before Vex acts");
   Press("mnuTReroll");
   Next();
+  StepToVex();
+}
+
+void SampleFight::StepToVex() {
   for (int steps = 0; Text("lblName2") != QLatin1String("Vex"); ++steps) {
-    if (steps == 8) guide_.BreakOff(QStringLiteral("Vex never acts"));
-    if (steps == 0) Press("mnuPGrenade");
-    if (steps == 1) Press("mnuPDelay");
+    if (steps == 2 * kCharacters) guide_.BreakOff(QStringLiteral("Vex never acts"));
     Next();
   }
 }
@@ -162,12 +167,14 @@ void SampleFight::Refuse() {
 }
 
 void SampleFight::Shoot() {
-  Say("Vex fires a burst in bad light");
+  Say("Vex walks, aims and fires a burst in half light");
   Display(QStringLiteral("Vex"));
   Press("cmdShots3_0");
   PressKey(guide_.Find<QComboBox>(Roller(), "cmbVisability"), Qt::Key_Down);
-  PressKey(guide_.Find<QComboBox>(Roller(), "cmbAttackerMove"), Qt::Key_Down);
-  for (int dice = 0; dice < 3; ++dice) guide_.Press(Roller(), "cmdCPplusMinus_0");
+  PressKey(guide_.Find<QComboBox>(Roller(), "cmbAttackerMove"), Qt::Key_End);
+  for (const char* button : {"Label4", "Label4", "cmdCPplusMinus_0", "cmdCPplusMinus_0"}) {
+    guide_.Press(Roller(), button);
+  }
   Roll();
   guide_.Take(Roller(), "roller");
 
@@ -205,6 +212,15 @@ void SampleFight::Suffer() {
   Press("cmdLDam_0");
   Press("cmdMDam_1");
   Press("cmdShotsZ_0");
+}
+
+void SampleFight::LetOthersAct() {
+  Say("The next one throws a grenade, the one after that puts the action off");
+  Next();
+  Press("mnuPGrenade");
+  Next();
+  Press("mnuPDelay");
+  StepToVex();
   Press("cmdShots3_0");
   Roller().close();
 }
@@ -248,6 +264,18 @@ void SampleFight::TakePlainWindows() {
   }
 }
 
+void SampleFight::FinishTurn() {
+  Say("The combat turn is played to its end, and the next one begun");
+  for (int steps = 0; Text("lblPhase") != QLatin1String("End of turn!"); ++steps) {
+    if (steps == 100) guide_.BreakOff(QStringLiteral("the combat turn never ends"));
+    Next();
+  }
+  Press("mnuTReroll");
+  for (int steps = 0; steps < kCharacters; ++steps) Next();
+  Press("mnuTPrev");
+  guide_.Say(QStringLiteral("  Previous: ") + Text("lblPhase"));
+}
+
 void SampleFight::SaveAndRestore() {
   Say("The fight is saved");
   guide_.InNextWindow([this](QDialog& dialog) { NameFile(dialog, "save-state"); });
@@ -269,17 +297,7 @@ void SampleFight::SaveAndRestore() {
       guide_.BreakOff(ToQString(before.Name) + QLatin1String(" was not restored as saved"));
     }
   }
-}
-
-void SampleFight::FinishTurn() {
-  Say("The combat turn is played to its end, and the next one begun");
-  for (int steps = 0; Text("lblPhase") != QLatin1String("End of turn!"); ++steps) {
-    if (steps == 100) guide_.BreakOff(QStringLiteral("the combat turn never ends"));
-    Next();
-  }
-  Press("mnuTReroll");
-  for (int steps = 0; steps < 5; ++steps) Next();
-  Press("mnuTPrev");
+  Next();
 }
 
 void SampleFight::End() {

@@ -33,9 +33,7 @@ class SampleProgram : private StartupWindows {
   void Run(Start start);
 
   /// The native path of a file in the program's directory.
-  QString OwnFile(const char* name) const {
-    return folder_.filePath(QString::fromLatin1(name));
-  }
+  QString OwnFile(const char* name) const { return folder_.filePath(QString::fromLatin1(name)); }
 
   Session session;
   /// Null until the program runs.
