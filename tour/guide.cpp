@@ -52,7 +52,7 @@ Guide::Guide(const QString& folder) : watchdog_(kPatience), folder_(folder) {
 }
 
 void Guide::Say(const QString& line) {
-  watchdog_.Report(line.toStdString());
+  watchdog_.Report(line.trimmed().toStdString());
   std::printf("%s\n", qPrintable(line));
   std::fflush(stdout);
 }

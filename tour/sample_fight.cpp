@@ -156,7 +156,7 @@ void SampleFight::StepToVex() {
 }
 
 void SampleFight::Refuse() {
-  Say("Tollkeeper is not on turn and may not shoot");
+  Say("Tollkeeper is not on turn and may not shoot, and drops out");
   Display(QStringLiteral("Tollkeeper"));
   guide_.InNextWindow([this](QDialog& dialog) {
     guide_.Take(dialog, "message");
@@ -350,7 +350,7 @@ void SampleFight::Roll() {
 
 void SampleFight::Resize(QSize size) {
   Window().resize(size);
-  if (Window().size() != size) guide_.BreakOff(QStringLiteral("the window cannot be that small"));
+  if (Window().size() != size) guide_.BreakOff(QStringLiteral("the window does not take its size"));
 }
 
 void SampleFight::NameFile(QDialog& dialog, const char* picture) {
