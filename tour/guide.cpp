@@ -10,6 +10,7 @@
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QPixmap>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <cstdio>
 #include <cstdlib>
@@ -122,6 +123,8 @@ void Guide::Trigger(QWidget& window, const char* name) {
 void Guide::AnswerModalWindow() {
   auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
   if (dialog == nullptr || !dialog->isVisible() || dialog == driven_) return;
+  // It says how far a piece of work is, and goes by itself.
+  if (qobject_cast<QProgressDialog*>(dialog) != nullptr) return;
   auto* message = qobject_cast<QMessageBox*>(dialog);
   if (drives_.empty()) {
     if (!readsMessages_ || message == nullptr) {
