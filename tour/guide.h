@@ -30,9 +30,6 @@ class Guide {
 
   /// Drives the next modal window that opens, and has to close it. Several wait in a row.
   void InNextWindow(Drive drive) { drives_.push_back(std::move(drive)); }
-  /// From now on message boxes that nobody waits for are read out and closed, or break the tour
-  /// off.
-  void ReadOutMessages(bool wanted) { readsMessages_ = wanted; }
 
   template <typename Widget>
   Widget& Find(QWidget& window, const char* name) {
@@ -44,6 +41,9 @@ class Guide {
   /// Presses a button, or chooses a menu entry. When it returns, the windows that were to be driven
   /// have come and gone.
   void Press(QWidget& window, const char* name);
+  /// The same where messages may come that the tour does not wait for: they are read out and
+  /// closed.
+  void PressAndHear(QWidget& window, const char* name);
   /// Takes the picture of the window that a button or menu entry opens, modal or not, and closes
   /// the window again.
   void TakeWindowOf(QWidget& window, const char* name, const char* picture);
@@ -56,7 +56,7 @@ class Guide {
   QDir folder_;
   int written_ = 0;
   int missing_ = 0;
-  bool readsMessages_ = false;
+  bool hears_ = false;
   std::deque<Drive> drives_;
   /// The window that is being driven; null for none.
   const QDialog* driven_ = nullptr;

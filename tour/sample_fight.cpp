@@ -311,9 +311,7 @@ void SampleFight::End() {
 }
 
 void SampleFight::Next() {
-  guide_.ReadOutMessages(true);
-  Press("mnuTNext");
-  guide_.ReadOutMessages(false);
+  guide_.PressAndHear(Window(), "mnuTNext");
   guide_.Say(QStringLiteral("  Next: %1 %2").arg(Text("lblPhase"), Text("lblName2")));
 }
 
