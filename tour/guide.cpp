@@ -91,7 +91,7 @@ bool Guide::Finish() {
 
 void Guide::Press(QWidget& window, const char* name) {
   Trigger(window, name);
-  if (!drives_.empty()) {
+  if (next_ != nullptr) {
     BreakOff(QString::fromLatin1(name) + QLatin1String(" did not open its window"));
   }
 }
@@ -109,8 +109,8 @@ void Guide::TakeWindowOf(QWidget& window, const char* name, const char* picture)
   });
   const QWidgetList before = OpenWindows();
   Trigger(window, name);
-  if (drives_.empty()) return;
-  drives_.clear();
+  if (next_ == nullptr) return;
+  next_ = nullptr;
   for (QWidget* opened : OpenWindows()) {
     if (before.contains(opened)) continue;
     Take(*opened, picture);
@@ -132,7 +132,7 @@ void Guide::AnswerModalWindow() {
   // It says how far a piece of work is, and goes by itself.
   if (qobject_cast<QProgressDialog*>(dialog) != nullptr) return;
   auto* message = qobject_cast<QMessageBox*>(dialog);
-  if (drives_.empty()) {
+  if (next_ == nullptr) {
     if (!hears_ || message == nullptr) {
       BreakOff(QStringLiteral("unexpected window: ") + dialog->windowTitle() + QLatin1Char(' ') +
                (message == nullptr ? QString() : message->text()));
@@ -140,8 +140,7 @@ void Guide::AnswerModalWindow() {
     Say(QStringLiteral("  \"%1\"").arg(message->text().simplified()));
     return message->accept();
   }
-  const Drive drive = std::move(drives_.front());
-  drives_.pop_front();
+  const Drive drive = std::exchange(next_, nullptr);
   const QDialog* outer = std::exchange(driven_, dialog);
   drive(*dialog);
   if (dialog->isVisible()) BreakOff(QStringLiteral("left open: ") + dialog->windowTitle());

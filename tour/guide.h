@@ -3,7 +3,6 @@
 #include <QDialog>
 #include <QDir>
 #include <QTimer>
-#include <deque>
 #include <functional>
 
 #include "tour/watchdog.h"
@@ -28,8 +27,8 @@ class Guide {
   /// Says how many pictures there are. Returns whether none is missing.
   bool Finish();
 
-  /// Drives the next modal window that opens, and has to close it. Several wait in a row.
-  void InNextWindow(Drive drive) { drives_.push_back(std::move(drive)); }
+  /// Drives the next modal window that opens, and has to close it.
+  void InNextWindow(Drive drive) { next_ = std::move(drive); }
 
   template <typename Widget>
   Widget& Find(QWidget& window, const char* name) {
@@ -38,8 +37,8 @@ class Guide {
     return *widget;
   }
 
-  /// Presses a button, or chooses a menu entry. When it returns, the windows that were to be driven
-  /// have come and gone.
+  /// Presses a button, or chooses a menu entry. When it returns, the window that was to be driven
+  /// has come and gone.
   void Press(QWidget& window, const char* name);
   /// The same where messages may come that the tour does not wait for: they are read out and
   /// closed.
@@ -57,7 +56,8 @@ class Guide {
   int written_ = 0;
   int missing_ = 0;
   bool hears_ = false;
-  std::deque<Drive> drives_;
+  /// What waits for the next window; null for nothing.
+  Drive next_;
   /// The window that is being driven; null for none.
   const QDialog* driven_ = nullptr;
   QTimer watch_;

@@ -84,9 +84,7 @@ class SampleFight {
   void Next();
   void StepToVex();
   void Display(const QString& name);
-  void OpenPage(int page) { Find<QTabWidget>("tabMain").setCurrentIndex(page); }
   void Mark(const char* list, const QString& beginning);
-  void Ready(const char* weapon, const char* button);
   void Roll();
   void Resize(QSize size);
   void NameFile(QDialog& dialog, const char* picture);
@@ -125,8 +123,10 @@ void SampleFight::Import() {
 void SampleFight::ArmVex() {
   Say("Vex takes two guns and chooses the skills for them");
   Display(QStringLiteral("Vex"));
-  Ready("Harrow 12", "cmdSetPrim");
-  Ready("Stub 9", "cmdSetSecond");
+  Mark("lstWeapon", QStringLiteral("Harrow 12"));
+  Press("cmdSetPrim");
+  Mark("lstWeapon", QStringLiteral("Stub 9"));
+  Press("cmdSetSecond");
   Press("chkSmL_0");
   Mark("lstActive", QStringLiteral("Submachine Guns"));
   guide_.InNextWindow([this](QDialog& dialog) {
@@ -229,7 +229,7 @@ void SampleFight::TakePages() {
   Say("The pages");
   const char* const kPages[] = {"main-window", "gear-page", "person-page", "notes-page"};
   for (int page = 3; page >= 0; --page) {
-    OpenPage(page);
+    Find<QTabWidget>("tabMain").setCurrentIndex(page);
     guide_.Take(Window(), kPages[page]);
   }
   Say("The least size");
@@ -332,11 +332,6 @@ void SampleFight::Mark(const char* list, const QString& beginning) {
   const auto found = tree.findItems(beginning, Qt::MatchStartsWith);
   if (found.isEmpty()) guide_.BreakOff(beginning + QLatin1String(" is not in the list"));
   tree.setCurrentItem(found.constFirst());
-}
-
-void SampleFight::Ready(const char* weapon, const char* button) {
-  Mark("lstWeapon", QString::fromLatin1(weapon));
-  Press(button);
 }
 
 void SampleFight::Roll() {

@@ -18,7 +18,7 @@ struct Theme;
 /// and the user's settings stand in a directory that goes with it, and its dice fall the same way
 /// every time.
 class SampleProgram : private StartupWindows {
- private:
+  // The session is made from these.
   QTemporaryDir folder_;
   NativeFiles files_;
   NativeUserSettings userSettings_;
