@@ -258,7 +258,9 @@ void SampleFight::TakePlainWindows() {
                                       {"mnuViewGM", "game-master"},
                                       {"mnuViewLog", "log"},
                                       {"mnuViewReference", "reference"},
-                                      {"cmdInfoWeapon", "weapon-information"}};
+                                      {"cmdInfoWeapon", "item-information"},
+                                      {"mnuHelpContents", "help"},
+                                      {"mnuHelpAbout", "about"}};
   for (const PlainWindow& window : kWindows) {
     guide_.TakeWindowOf(Window(), window.control, window.picture);
   }
