@@ -38,6 +38,8 @@ QString FileName(const fs::path& path) { return QString::fromStdU16String(path.u
     throw RuntimeError(ErrorNumber::PathNotFound);
   }
   switch (error) {
+    // A device that took only a part of the bytes counts as no error to the toolkit.
+    case QFileDevice::NoError:
     case QFileDevice::ResourceError:
     case QFileDevice::WriteError:
       throw RuntimeError(ErrorNumber::DiskFull);
@@ -47,6 +49,12 @@ QString FileName(const fs::path& path) { return QString::fromStdU16String(path.u
     default:
       throw RuntimeError(ErrorNumber::PathFileAccess);
   }
+}
+
+/// Whether the device took every byte. The toolkit itself puts up with a write that broke off.
+bool WriteAll(QFileDevice& file, std::string_view bytes) {
+  const auto size = static_cast<qint64>(bytes.size());
+  return file.write(bytes.data(), size) == size && file.flush();
 }
 
 }  // namespace
@@ -64,7 +72,11 @@ void NativeFiles::Replace(const std::string& path, std::string_view bytes) {
   const fs::path native = NativePath(path);
   QSaveFile file(FileName(native));
   if (!file.open(QIODevice::WriteOnly)) ThrowWriteError(native, file.error());
-  file.write(bytes.data(), static_cast<qint64>(bytes.size()));
+  if (!WriteAll(file, bytes)) {
+    const QFileDevice::FileError error = file.error();
+    file.cancelWriting();
+    ThrowWriteError(native, error);
+  }
   // commit() flushes to the device before it puts the file in place.
   if (!file.commit()) ThrowWriteError(native, file.error());
 }
@@ -73,10 +85,7 @@ void NativeFiles::Append(const std::string& path, std::string_view bytes) {
   const fs::path native = NativePath(path);
   QFile file(FileName(native));
   if (!file.open(QIODevice::WriteOnly | QIODevice::Append)) ThrowWriteError(native, file.error());
-  const qint64 size = static_cast<qint64>(bytes.size());
-  if (file.write(bytes.data(), size) != size || !file.flush()) {
-    ThrowWriteError(native, file.error());
-  }
+  if (!WriteAll(file, bytes)) ThrowWriteError(native, file.error());
 }
 
 std::vector<std::string> NativeFiles::List(const std::string& directory, std::string_view ending) {
