@@ -110,6 +110,8 @@ void MainWindow::BuildLeftPane(QWidget* parent) {
 
 void MainWindow::BuildRightPane(QWidget* parent) {
   auto* pane = new QWidget(parent);
+  // The Tab key goes through the widgets in the order in which they are made.
+  auto* header = new HeaderPanelView(pane);
   auto* tabs = new QTabWidget(pane);
   tabs->setObjectName(QStringLiteral("tabMain"));
   tabs->setDocumentMode(true);
@@ -122,7 +124,7 @@ void MainWindow::BuildRightPane(QWidget* parent) {
   auto* column = new QVBoxLayout(pane);
   column->setContentsMargins(0, kMargin, kMargin, kGap);
   column->setSpacing(4);
-  column->addWidget(new HeaderPanelView(pane));
+  column->addWidget(header);
   column->addWidget(tabs, 1);
 }
 

@@ -155,6 +155,9 @@ void MainWindowTest::GridShowsAndEdits() {
   QCOMPARE(QApplication::focusWidget(), &program_->Find("txtKP"));
   program_->Key(Qt::Key_Escape);
   QCOMPARE(QApplication::focusWidget(), &program_->Find("GridX"));
+  // The header stands before the pages.
+  program_->Key(Qt::Key_Tab);
+  QCOMPARE(QApplication::focusWidget(), &program_->Find("txtRRSLT"));
 }
 
 void MainWindowTest::DamageKeysAndButtons() {
