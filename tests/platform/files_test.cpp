@@ -21,8 +21,8 @@ namespace fs = std::filesystem;
 /// The files of this machine, in a directory of the test's own.
 class NativeFilesTest : public testing::Test {
  protected:
-  NativeFilesTest() { fs::create_directories(directory_); }
-  ~NativeFilesTest() override { fs::remove_all(directory_); }
+  void SetUp() override { fs::create_directories(directory_); }
+  void TearDown() override { fs::remove_all(directory_); }
 
   std::string PathOf(const std::string& name) const { return directory_.string() + "\\" + name; }
   std::size_t FilesThere() const {
