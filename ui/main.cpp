@@ -6,6 +6,7 @@
 #include "base/runtime_error.h"
 #include "base/seeded_uniform.h"
 #include "platform/files.h"
+#include "platform/program_directory.h"
 #include "platform/seed.h"
 #include "platform/user_settings.h"
 #include "ui/file_drop.h"
@@ -55,7 +56,7 @@ class RealWindows : public StartupWindows {
 ProgramLocation Location() {
   const QStringList arguments = QCoreApplication::arguments();
   return {arguments.size() > 1 ? FromQString(arguments[1]) : std::string(),
-          FromQString(QCoreApplication::applicationDirPath())};
+          ProgramDirectory(QCoreApplication::applicationDirPath().toStdU16String())};
 }
 
 int Run(QApplication& application) {
