@@ -225,8 +225,12 @@ void MainWindow::PaintCounts() {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   if (!session_.main.closing) {
+    // Not by Do(): a window that is being closed goes without a word when it is closed once more.
+    session_.Do({"mnuFileExit"});
+    PaintAll();
+  }
+  if (!session_.main.closing) {
     event->ignore();
-    Do({"mnuFileExit"});
     return;
   }
   // The place that a maximised window goes back to has no frame round it.

@@ -17,6 +17,7 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTextBrowser>
+#include <QTimer>
 #include <QToolButton>
 #include <QTreeView>
 #include <QTreeWidget>
@@ -74,6 +75,7 @@ class MainWindowTest : public QObject {
   void MnemonicsAreUniqueOnEachPage();
   void NothingMovesWithTheCombatant();
   void CombatPageFitsTheLeastWindow();
+  void ClosingTheWindowEndsTheProgram();
 };
 
 void MainWindowTest::FirstStartAsksForTheDirectories() {
@@ -440,6 +442,16 @@ void MainWindowTest::CombatPageFitsTheLeastWindow() {
   QCOMPARE(faults.join(QLatin1String(", ")), QString());
   const QRect onWindow(page.mapTo(program_->window.get(), QPoint()), page.size());
   QVERIFY(program_->window->rect().contains(onWindow));
+}
+
+void MainWindowTest::ClosingTheWindowEndsTheProgram() {
+  Start();
+  QTimer::singleShot(0, program_->window.get(), &QWidget::close);
+  QTimer stillThere;
+  connect(&stillThere, &QTimer::timeout, [] { QCoreApplication::exit(1); });
+  stillThere.start(5000);
+  QCOMPARE(QApplication::exec(), 0);
+  QVERIFY(program_->userSettings.values.count("Settings/MainLeft") > 0);
 }
 
 }  // namespace ng
