@@ -1,10 +1,10 @@
 #include "ui/prompts.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QMessageBox>
-#include <QPushButton>
 
 #include "ui/about_dialog.h"
 #include "ui/input_dialog.h"
@@ -51,6 +51,19 @@ std::optional<std::string> AskForFile(QWidget* parent, const FileDialog& dialog,
   return PathText(box.selectedFiles().constFirst());
 }
 
+/// A box with the application's title; returns the button that closed it.
+QMessageBox::StandardButton Ask(QWidget* parent, const QString& text,
+                                QMessageBox::StandardButtons buttons) {
+  QMessageBox box(QMessageBox::NoIcon, Title(), text, buttons, parent);
+  box.setTextFormat(Qt::PlainText);
+  for (QAbstractButton* button : box.buttons()) button->setIcon({});
+  // The box is a grid that takes its width from what stands in it.
+  if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+    grid->addItem(new QSpacerItem(kBoxWidth, 0), grid->rowCount(), 0, 1, grid->columnCount());
+  }
+  return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
 }  // namespace
 
 void QtPrompts::SetMainWindow(QWidget& window, std::function<void()> paint) {
@@ -71,18 +84,10 @@ void QtPrompts::PaintMainWindow() const {
 
 void QtPrompts::Message(std::string_view text) {
   PaintMainWindow();
-  QMessageBox box(QMessageBox::NoIcon, Title(), {}, QMessageBox::Ok, Parent());
-  box.setTextFormat(Qt::PlainText);
   QString shown = ToQString(text);
   shown.replace(QLatin1String("\r\n"), QLatin1String("\n"));
   shown.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-  box.setText(shown);
-  box.button(QMessageBox::Ok)->setIcon({});
-  // The box is a grid that takes its width from what stands in it.
-  if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
-    grid->addItem(new QSpacerItem(kBoxWidth, 0), grid->rowCount(), 0, 1, grid->columnCount());
-  }
-  box.exec();
+  Ask(Parent(), shown, QMessageBox::Ok);
 }
 
 std::string QtPrompts::Input(std::string_view prompt) {
@@ -102,9 +107,9 @@ std::optional<std::string> QtPrompts::SaveFile(const FileDialog& dialog) {
 }
 
 SaveChoice QtPrompts::AskToSave(std::string_view question) {
-  const QMessageBox::StandardButton answer = QMessageBox::question(
-      Parent(), Title(), ToQString(question),
-      QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+  const QMessageBox::StandardButton answer =
+      Ask(Parent(), ToQString(question),
+          QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
   if (answer == QMessageBox::Save) return SaveChoice::Save;
   return answer == QMessageBox::Discard ? SaveChoice::Discard : SaveChoice::Cancel;
 }
