@@ -29,6 +29,20 @@ std::string Counted(Integer count, const std::string& what) {
   return PlainText(count) + " " + what + (count == 1 ? "" : "s");
 }
 
+std::string Joined(const std::vector<std::string>& names) {
+  std::string joined;
+  for (const std::string& name : names) joined += (joined.empty() ? "" : ", ") + name;
+  return joined;
+}
+
+std::vector<std::string> NamesWithUnfiledNotes(const Fight& fight) {
+  std::vector<std::string> names;
+  for (const PlayerRecord& record : fight.Players) {
+    if (!record.Notes.empty() && record.NoteFileName.empty()) names.push_back(record.Name);
+  }
+  return names;
+}
+
 /// Files of the three kinds, each in the order given.
 struct SortedFiles {
   std::vector<std::string> characters;
@@ -118,13 +132,15 @@ bool FightFiles::SaveState() {
   environment_.files.Replace(*path, StateFileText(form_.fight));
   saved_ = form_.fight;
   form_.statusMessage = "Fight saved";
-  std::string names;
-  for (const std::string& name : NamesLeftOut(form_.fight)) {
-    names += (names.empty() ? "" : ", ") + name;
-  }
-  if (!names.empty()) {
+  const std::string leftOut = Joined(NamesLeftOut(form_.fight));
+  if (!leftOut.empty()) {
     form_.statusMessage +=
-        "; beyond slot " + PlainText(form_.fight.NumPlayers) + " and so not in the file: " + names;
+        "; beyond slot " + PlainText(form_.fight.NumPlayers) + " and so not in the file: " + leftOut;
+  }
+  // The file names the note files and holds no notes.
+  const std::string unfiled = Joined(NamesWithUnfiledNotes(form_.fight));
+  if (!unfiled.empty()) {
+    form_.statusMessage += "; notes without a file of their own are not in it: " + unfiled;
   }
   return true;
 }

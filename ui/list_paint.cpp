@@ -18,6 +18,8 @@ void ShowLine(QTreeWidgetItem& item, const QTreeWidget& tree, const std::string&
     QString text = tab < 0 ? rest : rest.left(tab);
     rest = tab < 0 ? QString() : rest.mid(tab + 1);
     text.replace(QLatin1Char('\t'), QLatin1String("  "));
+    // Names that are padded to a width would be elided for their blanks.
+    while (text.endsWith(QLatin1Char(' '))) text.chop(1);
     item.setText(column, text);
     item.setToolTip(column, text);
     item.setTextAlignment(column, Qt::Alignment::fromInt(tree.headerItem()->textAlignment(column)));

@@ -178,6 +178,10 @@ TEST_F(FightFilesTest, ClosingAsksForAChangedFightOnly) {
 TEST_F(FightFilesTest, NotesHaveAFileOfTheirOwnOrStayWhileTheProgramRuns) {
   program.Do("GridX_Click", 1);
   program.Do("txtNotes", 0, "talks\r\nfirst_");
+  Save(program);
+  EXPECT_EQ(program.main.statusMessage,
+            "Fight saved; notes without a file of their own are not in it: " +
+                program.main.header.lblName2);
   program.prompts.TakeLog();
   program.prompts.answers.push_back({Kind::Cancel, {}, {}});
   program.Do("cmdNoteSave");
