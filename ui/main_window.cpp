@@ -9,6 +9,7 @@
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QStyle>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTreeWidget>
@@ -145,7 +146,10 @@ void MainWindow::Place() {
   const WindowLayout& layout = session_.main.layout;
   const QScreen* screen = QGuiApplication::screenAt(KeptCentre(layout));
   if (screen == nullptr) screen = QGuiApplication::primaryScreen();
-  const QRect place = OpeningPlace(layout, screen->availableGeometry());
+  // The frame is not there yet; its title bar must have room above the window.
+  const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+  const QRect place =
+      OpeningPlace(layout, screen->availableGeometry().adjusted(0, 0, 0, -titleBar));
   move(place.topLeft());
   resize(place.size());
 }
