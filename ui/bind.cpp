@@ -24,19 +24,12 @@
 namespace ng {
 namespace {
 
-/// Whether the style sheet colours the label by its text and must look at it again.
-bool ColouredByText(const QLabel& label) {
-  return label.objectName() == QLatin1String("lblTurn") ||
-         label.objectName().startsWith(QLatin1String("lblLeft_"));
-}
-
 void ShowLabel(QLabel& label, const QString& text) {
   const QString shown = text.isEmpty() ? label.property("emptyText").toString() : text;
   if (label.text() == shown) return;
   label.setText(shown);
-  if (!ColouredByText(label)) return;
-  label.style()->unpolish(&label);
-  label.style()->polish(&label);
+  // The style colours the turn badge by what it says.
+  if (label.objectName() == QLatin1String("lblTurn")) label.style()->polish(&label);
 }
 
 void ShowNote(QPlainTextEdit& edit, QString text) {
@@ -45,14 +38,15 @@ void ShowNote(QPlainTextEdit& edit, QString text) {
   if (edit.toPlainText() != text) edit.setPlainText(text);
 }
 
-/// The style sheet makes a modifier stand out that is not zero.
+/// A modifier that is not zero stands out.
 void MarkNonZero(QLineEdit& box) {
   if (!box.objectName().startsWith(QLatin1String("txtRVar_"))) return;
   const bool counts = LeadingNumber(FromQString(box.text())) != 0;
   if (box.property("nonZero").toBool() == counts) return;
   box.setProperty("nonZero", counts);
-  box.style()->unpolish(&box);
-  box.style()->polish(&box);
+  QFont font = box.font();
+  font.setBold(counts);
+  box.setFont(font);
 }
 
 void ShowEntries(QComboBox& combo, const std::vector<std::string>& lines) {

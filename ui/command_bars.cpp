@@ -10,6 +10,7 @@
 
 #include "app/commands.h"
 #include "ui/icons.h"
+#include "ui/layout_kit.h"
 #include "ui/text.h"
 
 namespace ng {
@@ -60,6 +61,7 @@ void AddButton(QMainWindow& window, QToolBar& bar, const Command& command) {
   button->setObjectName(QString::fromLatin1(command.toolbarKey));
   button->setAccessibleName(action->iconText());
   button->setMinimumSize(IsNext(command) ? kLeastNext : kLeastButton);
+  if (IsNext(command)) Embolden(button);
 }
 
 }  // namespace

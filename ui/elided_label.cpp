@@ -32,12 +32,9 @@ void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
   const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, area.width());
   const Qt::Alignment visual = QStyle::visualAlignment(layoutDirection(), alignment());
   const QVariant alarm = property("alarmText");
-  QPalette colours = palette();
-  if (alarm.isValid() && text() == alarm.toString()) {
-    colours.setColor(foregroundRole(), Theme::Current().physicalBar);
-  }
-  painter.drawItemText(area, static_cast<int>(visual) | Qt::TextSingleLine, colours, isEnabled(),
-                       shown, foregroundRole());
+  const bool alarmed = alarm.isValid() && text() == alarm.toString();
+  painter.drawItemText(area, static_cast<int>(visual) | Qt::TextSingleLine, palette(), isEnabled(),
+                       shown, alarmed ? kAlarmText : foregroundRole());
 }
 
 void ElidedLabel::resizeEvent(QResizeEvent* event) {

@@ -25,6 +25,7 @@ void HoldWidth(QLabel& label, const QString& sample) {
 
 HeaderPanelView::HeaderPanelView(QWidget* parent) : QFrame(parent) {
   setObjectName(QStringLiteral("headerPanel"));
+  setFrameShape(StyledPanel);
   setFixedHeight(kHeight);
   auto* figures = new QVBoxLayout;
   figures->setSpacing(5);
@@ -45,6 +46,7 @@ QBoxLayout* HeaderPanelView::BuildIdentity() {
   name->setFont(InterfaceFont(17, true));
   auto* badge = new QLabel(this);
   badge->setObjectName(QStringLiteral("lblTurn"));
+  badge->setFrameShape(QFrame::StyledPanel);
   badge->setFont(InterfaceFont(10, true));
   badge->setAlignment(Qt::AlignCenter);
   badge->setFixedSize(kBadgeWidth, 22);

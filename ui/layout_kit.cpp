@@ -83,11 +83,11 @@ QVBoxLayout* MakeColumn() {
 
 QFrame* MakeLine(Qt::Orientation orientation, QWidget* parent) {
   auto* line = new QFrame(parent);
-  line->setObjectName(QStringLiteral("line"));
-  line->setAttribute(Qt::WA_StyledBackground);
   if (orientation == Qt::Horizontal) {
+    line->setFrameShape(QFrame::HLine);
     line->setFixedHeight(1);
   } else {
+    line->setFrameShape(QFrame::VLine);
     line->setFixedWidth(1);
   }
   return line;

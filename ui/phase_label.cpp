@@ -9,7 +9,8 @@ namespace {
 
 constexpr int kHeight = 42;
 /// Frame and padding at both sides.
-constexpr int kMargins = 2 * 14;
+constexpr int kPadding = 13;
+constexpr int kMargins = 2 * (1 + kPadding);
 constexpr std::array<double, 4> kSizes = {14, 12, 11, 10};
 
 }  // namespace
@@ -17,8 +18,9 @@ constexpr std::array<double, 4> kSizes = {14, 12, 11, 10};
 PhaseLabel::PhaseLabel(QWidget* parent) : QLabel(parent) {
   setObjectName(QStringLiteral("lblPhase"));
   setAccessibleName(tr("Step of the combat turn"));
+  setFrameShape(StyledPanel);
   setFixedHeight(kHeight);
-  setIndent(0);
+  setIndent(kPadding);
   setFont(InterfaceFont(kSizes.front(), true));
 }
 

@@ -66,6 +66,7 @@ RollerWindow::~RollerWindow() = default;
 QFrame* RollerWindow::MakeStrip() {
   auto* strip = new QFrame(this);
   strip->setObjectName(QStringLiteral("testStrip"));
+  strip->setFrameShape(QFrame::StyledPanel);
   strip->setFixedHeight(kStripHeight);
   QHBoxLayout* row = MakeRow(6);
   strip->setLayout(row);

@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QFontDatabase>
+#include <QStyle>
+#include <QWidget>
 
 #include "ui/tracker_style.h"
 
@@ -9,48 +11,6 @@ namespace ng {
 namespace {
 
 const Theme* current = nullptr;
-
-// The badge's colours are those of the grid's rows, and black stands on them in either theme.
-constexpr const char* kStyleSheet = R"(
-QGroupBox { background: %group; border: 1px solid %groupEdge; border-radius: 5px; margin-top: 8px; }
-QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; left: 8px;
-  padding: 0 6px; color: %muted; }
-QFrame#headerPanel, QFrame#testStrip { background: %group; border: 1px solid %groupEdge; border-radius: 5px; }
-QLabel#lblPhase { background: %base; border: 1px solid %groupEdge; border-radius: 5px;
-  padding: 0 13px; }
-QLabel#lblTurn { border: 1px solid %fieldEdge; border-radius: 4px; }
-QLabel#lblTurn[text="On turn"] { background: #00ff00; color: black; }
-QLabel#lblTurn[text="Delayed"] { background: #ffff00; color: black; }
-QLabel#lblTurn[text="Inactive"] { background: #ff0000; color: black; }
-QLabel[tone="muted"] { color: %muted; }
-QLabel[tone="accent"], QLineEdit[tone="accent"] { color: %labelAccent; }
-QLabel[tone="alarm"] { color: %physicalBar; }
-QLineEdit { background: %base; border: 1px solid %fieldEdge; border-radius: 3px; padding: 0 3px; }
-QLineEdit:focus { border-color: %labelAccent; }
-QLineEdit:read-only { background: %group; border-color: %groupEdge; }
-QLineEdit[nonZero="true"] { background: %nonZeroBox; font-weight: bold; }
-QPushButton[shape="caption"] { background: %group; border: 1px solid %groupEdge;
-  border-radius: 3px; padding: 0 5px; text-align: left; }
-QPushButton[shape="caption"]:hover, QPushButton[shape="caption"]:focus { border-color: %labelAccent; }
-QPushButton[shape="caption"]:pressed { background: %base; }
-QPushButton#cmdRoll { background: %accent; color: white; border: 1px solid %accent;
-  border-radius: 4px; }
-QPushButton#cmdRoll:hover { border-color: %labelAccent; }
-QPushButton#cmdRoll:focus { border: 2px solid %labelAccent; }
-QPushButton#cmdRoll:pressed { background: %labelAccent; }
-QTreeView, QTableView, QListView, QPlainTextEdit { background: %base; border: 1px solid %fieldEdge; border-radius: 2px; }
-QPlainTextEdit:focus, QTreeWidget:focus { border-color: %labelAccent; }
-QToolBar { border: none; border-bottom: 1px solid %groupEdge; }
-QToolButton#Next { background: %accent; color: white; border: 1px solid %accent;
-  border-radius: 2px; font-weight: bold; }
-QToolBar QToolButton:checked { background: %base; border: 1px solid %fieldEdge;
-  border-radius: 2px; }
-QToolButton#Next:hover, QToolButton#Next:pressed { background: %labelAccent; }
-QStatusBar { border-top: 1px solid %groupEdge; }
-QStatusBar::item { border: none; }
-QStatusBar QLabel { color: %muted; }
-QFrame#line { background: %groupEdge; border: none; }
-)";
 
 QColor Mixed(const QColor& one, const QColor& other) {
   return QColor((one.red() + other.red()) / 2, (one.green() + other.green()) / 2,
@@ -106,7 +66,7 @@ QPalette Theme::Palette() const {
   palette.setColor(QPalette::Base, base);
   palette.setColor(QPalette::AlternateBase, alternateBase);
   palette.setColor(QPalette::Text, text);
-  palette.setColor(QPalette::PlaceholderText, muted);
+  palette.setColor(kMutedText, muted);
   palette.setColor(QPalette::Button, button);
   palette.setColor(QPalette::ButtonText, text);
   palette.setColor(QPalette::BrightText, Qt::white);
@@ -114,7 +74,8 @@ QPalette Theme::Palette() const {
   palette.setColor(QPalette::ToolTipText, text);
   palette.setColor(QPalette::Highlight, accent);
   palette.setColor(QPalette::HighlightedText, Qt::white);
-  palette.setColor(QPalette::Link, labelAccent);
+  palette.setColor(kAccentText, labelAccent);
+  palette.setColor(kAlarmText, physicalBar);
   const QColor faint = Mixed(muted, window);
   for (const QPalette::ColorRole role :
        {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
@@ -124,22 +85,6 @@ QPalette Theme::Palette() const {
   return palette;
 }
 
-QString Theme::StyleSheet() const {
-  // Longer words first: %group is the beginning of %groupEdge.
-  const std::pair<const char*, const QColor&> words[] = {{"%groupEdge", groupEdge},
-                                                         {"%group", group},
-                                                         {"%base", base},
-                                                         {"%muted", muted},
-                                                         {"%accent", accent},
-                                                         {"%labelAccent", labelAccent},
-                                                         {"%fieldEdge", fieldEdge},
-                                                         {"%physicalBar", physicalBar},
-                                                         {"%nonZeroBox", nonZeroBox}};
-  QString sheet = QString::fromLatin1(kStyleSheet);
-  for (const auto& [word, colour] : words) sheet.replace(QLatin1String(word), colour.name());
-  return sheet;
-}
-
 void ApplyTheme(QApplication& application, const Theme& theme) {
   if (current == nullptr) {
     application.setStyle(new TrackerStyle);
@@ -147,7 +92,7 @@ void ApplyTheme(QApplication& application, const Theme& theme) {
   }
   current = &theme;
   application.setPalette(theme.Palette());
-  application.setStyleSheet(theme.StyleSheet());
+  for (QWidget* widget : QApplication::allWidgets()) application.style()->polish(widget);
 }
 
 bool DesktopIsDark(const QApplication& application) {

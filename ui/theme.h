@@ -9,6 +9,11 @@ class QWidget;
 
 namespace ng {
 
+// The roles of the palette that colour what is not plain text.
+constexpr QPalette::ColorRole kMutedText = QPalette::PlaceholderText;
+constexpr QPalette::ColorRole kAccentText = QPalette::Link;
+constexpr QPalette::ColorRole kAlarmText = QPalette::LinkVisited;
+
 /// The colours of the windows, light or dark. The row colours of the grid never change with them.
 struct Theme {
   bool dark;
@@ -34,9 +39,6 @@ struct Theme {
   static const Theme& Current();
 
   QPalette Palette() const;
-  /// Colours a label by its dynamic property "tone" ("muted", "accent") and the turn badge by what
-  /// it says; a badge must be polished again after its text.
-  QString StyleSheet() const;
 };
 
 /// Puts the colours on every window.
