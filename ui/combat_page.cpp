@@ -60,7 +60,7 @@ CombatPage::CombatPage(QWidget* parent) : FittedPage(parent) {
 
 void CombatPage::resizeEvent(QResizeEvent* event) {
   note_->setVisible(window()->height() >= kNoteFromHeight);
-  QWidget::resizeEvent(event);
+  FittedPage::resizeEvent(event);
 }
 
 }  // namespace ng

@@ -62,7 +62,7 @@ constexpr std::array<DamageButton, 7> kButtons = {{
      {"Ctrl+3", "Ctrl+7"}},
     {"cmdDDam", "D", Face::Wound, "Deadly wound", "a Deadly wound, 10 boxes", {"Ctrl+4", "Ctrl+8"}},
     {"cmdReduce",
-     "−",
+     "–",
      Face::Step,
      "one box less",
      "one box less",

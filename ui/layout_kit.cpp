@@ -2,7 +2,6 @@
 
 #include <QBoxLayout>
 #include <QCheckBox>
-#include <QEvent>
 #include <QFrame>
 #include <QGroupBox>
 #include <QHeaderView>
@@ -10,7 +9,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTreeWidget>
-#include <algorithm>
 
 #include "ui/elided_label.h"
 
@@ -40,6 +38,19 @@ void AddColumn(QTreeWidget* list, int index, const ListColumn& column) {
     header->setSectionResizeMode(index, QHeaderView::Interactive);
     header->resizeSection(index, column.width);
   }
+}
+
+/// Makes the layout forget what everything in it needs, as it would do itself only when events are
+/// handled. Nothing is arranged.
+void AskSizesAnew(QLayout& layout) {
+  for (int i = 0; i < layout.count(); ++i) {
+    QLayoutItem* item = layout.itemAt(i);
+    QWidget* widget = item->widget();
+    QLayout* inner = widget != nullptr ? widget->layout() : item->layout();
+    if (inner != nullptr) AskSizesAnew(*inner);
+    if (widget != nullptr) widget->updateGeometry();
+  }
+  layout.invalidate();
 }
 
 }  // namespace
@@ -174,47 +185,28 @@ QTreeWidget* MakePlainList(const Naming& naming, QWidget* parent) {
 QSize FittedPage::minimumSizeHint() const { return tight_; }
 
 void FittedPage::MeasureText() {
-  // A style sheet keeps the fonts that it finds at first, so the larger text comes first.
   roomy_ = NeededWith(kTextPoints);
   tight_ = NeededWith(kTightPoints);
 }
 
-bool FittedPage::event(QEvent* event) {
-  const bool handled = QWidget::event(event);
-  // New colours put the first fonts back, and the layouts ask for another arrangement.
-  const bool fit = event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest;
-  if (fit && roomy_.isValid() && tight_.isValid()) FitText();
-  return handled;
-}
-
-void FittedPage::FitText() {
+void FittedPage::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
   const bool roomy = width() >= roomy_.width() && height() >= roomy_.height();
   SetText(roomy ? kTextPoints : kTightPoints);
 }
 
 QSize FittedPage::NeededWith(double points) {
-  // The layouts would hear of the new font only when events are handled; the inner ones go first.
-  const QList<QWidget*> children = findChildren<QWidget*>();
-  for (QWidget* child : children) child->ensurePolished();
   SetText(points);
-  std::for_each(children.rbegin(), children.rend(), [](QWidget* child) {
-    child->updateGeometry();
-    if (child->layout() != nullptr) child->layout()->activate();
-  });
-  layout()->activate();
+  AskSizesAnew(*layout());
   return layout()->totalMinimumSize();
 }
 
 void FittedPage::SetText(double points) {
-  const double other = points == kTextPoints ? kTightPoints : kTextPoints;
-  // A style sheet keeps the fonts of parents from their children. What has a size of its own, the
-  // names and totals, keeps it.
-  for (QWidget* child : findChildren<QWidget*>()) {
-    QFont font = child->font();
-    if (font.pointSizeF() != other) continue;
-    font.setPointSizeF(points);
-    child->setFont(font);
-  }
+  if (font().pointSizeF() == points) return;
+  // What has a size of its own, the names and totals, keeps it.
+  QFont text = font();
+  text.setPointSizeF(points);
+  setFont(text);
 }
 
 }  // namespace ng

@@ -99,10 +99,9 @@ class FittedPage : public QWidget {
  protected:
   /// Measures the page in both sizes; to be called when it holds everything.
   void MeasureText();
-  bool event(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void FitText();
   QSize NeededWith(double points);
   void SetText(double points);
 

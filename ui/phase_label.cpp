@@ -25,6 +25,8 @@ PhaseLabel::PhaseLabel(QWidget* parent) : QLabel(parent) {
 }
 
 void PhaseLabel::FitFont() {
+  // Before the window is arranged the width says nothing.
+  if (!testAttribute(Qt::WA_Resized)) return;
   for (const double size : kSizes) {
     const QFont candidate = InterfaceFont(size, true);
     const bool fits = QFontMetrics(candidate).horizontalAdvance(text()) <= width() - kMargins;

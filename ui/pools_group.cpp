@@ -62,7 +62,7 @@ void AddPool(QGridLayout* grid, const Pool& pool, QWidget* parent) {
   QPushButton* minus =
       MakeButton({pool.minus, QStringLiteral("%1: take a die").arg(pool.accessible),
                   TipWithKey(pool.minusTip, pool.minusKey)},
-                 "−", parent);
+                 "–", parent);
   QLineEdit* box = MakeBox({pool.box, pool.accessible, "Dice left"}, kPoolBoxWidth, parent);
   QPushButton* plus = MakeButton({pool.plus, QStringLiteral("%1: add a die").arg(pool.accessible),
                                   TipWithKey(pool.plusTip, pool.plusKey)},

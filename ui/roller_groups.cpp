@@ -116,7 +116,7 @@ QGroupBox* MakeDiceGroup(QWidget* parent) {
   QPushButton* minus =
       MakeStepButton({"cmdDicePlusMinus_1", QObject::tr("Number of dice: one less"),
                       TipWithKey(QObject::tr("Take a die away"), QObject::tr("Down in the box"))},
-                     "−", group);
+                     "–", group);
   QLineEdit* dice =
       MakeLargeBox({"txtNumDice", QObject::tr("Number of dice"),
                     TipWithKey(QObject::tr("How many dice are rolled"), QObject::tr("Ctrl+D"))},
