@@ -184,6 +184,8 @@ QTreeWidget* MakePlainList(const Naming& naming, QWidget* parent) {
 
 QSize FittedPage::minimumSizeHint() const { return tight_; }
 
+QSize FittedPage::sizeHint() const { return tight_; }
+
 void FittedPage::MeasureText() {
   roomy_ = NeededWith(kTextPoints);
   tight_ = NeededWith(kTightPoints);

@@ -95,6 +95,8 @@ class FittedPage : public QWidget {
 
   /// What the page needs with the smaller text.
   QSize minimumSizeHint() const override;
+  /// The same: what is more comes from the window.
+  QSize sizeHint() const override;
 
  protected:
   /// Measures the page in both sizes; to be called when it holds everything.
