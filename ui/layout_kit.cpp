@@ -9,6 +9,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTreeWidget>
+#include <algorithm>
+#include <cmath>
 
 #include "ui/elided_label.h"
 
@@ -39,6 +41,25 @@ void AddColumn(QTreeWidget* list, int index, const ListColumn& column) {
     header->resizeSection(index, column.width);
   }
 }
+
+/// A label of one line. It asks for its size without laying its text out, which QLabel does three
+/// times over.
+class CaptionLabel : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+  QSize sizeHint() const override {
+    ensurePolished();
+    // The mnemonic's mark takes no room; a last letter that leans out does.
+    const QString shown = text().remove(u'&');
+    const QFontMetricsF metrics(font(), this);
+    const qreal bearing = shown.isEmpty() ? 0 : metrics.rightBearing(shown.back());
+    const qreal width = metrics.horizontalAdvance(shown) - std::min(0.0, bearing);
+    const QSize words(static_cast<int>(std::ceil(width)), fontMetrics().height());
+    return words.grownBy(contentsMargins());
+  }
+  QSize minimumSizeHint() const override { return sizeHint(); }
+};
 
 /// Makes the layout forget what everything in it needs, as it would do itself only when events are
 /// handled. Nothing is arranged.
@@ -105,7 +126,7 @@ QFrame* MakeLine(Qt::Orientation orientation, QWidget* parent) {
 }
 
 QLabel* MakeCaption(const QString& text, QWidget* parent) {
-  auto* label = new QLabel(text, parent);
+  auto* label = new CaptionLabel(text, parent);
   label->setProperty("tone", "muted");
   return label;
 }

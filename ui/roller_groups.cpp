@@ -81,8 +81,9 @@ QPushButton* MakeRollButton(QWidget* parent) {
 }
 
 QLabel* MakeOddsLine(QWidget* parent) {
-  QLabel* odds = MakeCaption({}, parent);
+  auto* odds = new QLabel(parent);
   odds->setObjectName("lblOdds");
+  odds->setProperty("tone", "muted");
   odds->setToolTip(QObject::tr("The odds of this roll"));
   odds->setWordWrap(true);
   odds->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);

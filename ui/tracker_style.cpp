@@ -90,6 +90,15 @@ void TrackerStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
       if (edit == nullptr || edit->lineWidth == 0) break;
       return PaintLineEdit(*painter, *edit, widget);
     }
+    case PE_PanelButtonCommand: {
+      const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+      if (button == nullptr) break;
+      // Fusion keeps pictures of buttons by palette; with one palette they share them.
+      QStyleOptionButton shared = *button;
+      shared.palette = QGuiApplication::palette();
+      shared.palette.setCurrentColorGroup(button->palette.currentColorGroup());
+      return QProxyStyle::drawPrimitive(element, &shared, painter, widget);
+    }
     case PE_PanelStatusBar:
       return painter->fillRect(QRect(0, 0, option->rect.width(), 1), Theme::Current().groupEdge);
     case PE_FrameStatusBarItem:
