@@ -72,7 +72,6 @@ MainWindow::MainWindow(Session& session) : session_(session) {
   auto* splitter = new QSplitter(this);
   splitter->setHandleWidth(7);
   splitter->setChildrenCollapsible(false);
-  // A widget that is made where it belongs needs no second pass of the style sheet.
   BuildLeftPane(splitter);
   BuildRightPane(splitter);
   splitter->setStretchFactor(0, 0);

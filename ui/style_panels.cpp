@@ -18,7 +18,7 @@ constexpr qreal kScrollingRadius = 2;
 /// How far the upper edge of a group's frame lies below its title's.
 constexpr int kGroupTop = 8;
 constexpr int kTitleLeft = 8;
-constexpr int kTitlePadding = 6;
+constexpr int kTitlePadding = 8;
 
 QColor EdgeOf(const QStyleOption& option) {
   const Theme& theme = Theme::Current();

@@ -1,0 +1,102 @@
+#include "ui/program.h"
+
+#include <QApplication>
+#include <clocale>
+#include <memory>
+#include <utility>
+
+#include "app/startup.h"
+#include "base/runtime_error.h"
+#include "base/seeded_uniform.h"
+#include "platform/files.h"
+#include "platform/program_directory.h"
+#include "platform/seed.h"
+#include "platform/user_settings.h"
+#include "ui/file_drop.h"
+#include "ui/icons.h"
+#include "ui/main_window.h"
+#include "ui/prompts.h"
+#include "ui/splash.h"
+#include "ui/text.h"
+#include "ui/theme.h"
+
+namespace ng {
+namespace {
+
+class RealWindows : public StartupWindows {
+ public:
+  RealWindows(Session& session, QtPrompts& prompts, std::function<void(QWidget&)> loaded)
+      : session_(session), prompts_(prompts), loaded_(std::move(loaded)) {}
+
+  void ShowSplash() override {
+    splash_ = std::make_unique<Splash>();
+    splash_->show();
+    splash_->repaint();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  }
+
+  void LoadMain() override {
+    main_ = std::make_unique<MainWindow>(session_);
+    prompts_.SetMainWindow(*main_, [this] { main_->PaintAll(); });
+    if (loaded_) loaded_(*main_);
+  }
+
+  void UnloadSplash() override { splash_.reset(); }
+
+  void ShowMain() override { main_->show(); }
+
+  /// Opens the files named at the start.
+  void Open(const QStringList& paths) {
+    const std::string files = FilesToOpen(paths);
+    if (!files.empty()) main_->Do({"Form_Drop", 0, files});
+  }
+
+ private:
+  Session& session_;
+  QtPrompts& prompts_;
+  std::function<void(QWidget&)> loaded_;
+  std::unique_ptr<Splash> splash_;
+  std::unique_ptr<MainWindow> main_;
+};
+
+ProgramLocation Location() {
+  const QStringList arguments = QCoreApplication::arguments();
+  return {arguments.size() > 1 ? FromQString(arguments[1]) : std::string(),
+          ProgramDirectory(QCoreApplication::applicationDirPath().toStdU16String())};
+}
+
+int Run(QApplication& application, std::function<void(QWidget&)> loaded) {
+  NativeFiles files;
+  NativeUserSettings userSettings;
+  SeededUniform uniform(RandomSeed());
+  QtPrompts prompts;
+  Session session(Environment{files, uniform, prompts, userSettings, Location(), {}});
+  prompts.Attach(session);
+  session.main.darkColours = DesktopIsDark(application);
+  ApplyTheme(application, session.main.darkColours ? Theme::Dark() : Theme::Light());
+  RealWindows windows(session, prompts, std::move(loaded));
+  try {
+    Main(session, windows);
+    windows.Open(QCoreApplication::arguments().mid(2));
+  } catch (const RuntimeError& error) {
+    windows.UnloadSplash();
+    prompts.Message(error.what());
+    return 1;
+  }
+  return QApplication::exec();
+}
+
+}  // namespace
+
+int RunProgram(int argc, char** argv, std::function<void(QWidget&)> loaded) {
+  QApplication application(argc, argv);
+  // The toolkit takes the desktop's locale over; numbers are written with a point wherever we are.
+  std::setlocale(LC_NUMERIC, "C");
+  // Splash and dialogs come and go before the main window is there; its closing ends the program.
+  QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setApplicationName(QStringLiteral("NGtracker"));
+  QApplication::setWindowIcon(ApplicationIcon());
+  return Run(application, std::move(loaded));
+}
+
+}  // namespace ng
