@@ -25,6 +25,17 @@ QColor EdgeOf(const QStyleOption& option) {
   return option.state.testFlag(QStyle::State_HasFocus) ? theme.labelAccent : theme.fieldEdge;
 }
 
+/// The corner between two scroll bars, painted before the frame, stays.
+void PaintEdge(QPainter& painter, const QRect& area, const QColor& edge) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(edge);
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(QRectF(area).adjusted(0.5, 0.5, -0.5, -0.5), kScrollingRadius,
+                          kScrollingRadius);
+  painter.restore();
+}
+
 bool PaintNamedPanel(QPainter& painter, const QStyleOption& option, const QString& name) {
   const Theme& theme = Theme::Current();
   if (name == QLatin1String("headerPanel") || name == QLatin1String("testStrip")) {
@@ -68,7 +79,7 @@ bool PaintFrame(QPainter& painter, const QStyleOptionFrame& option, const QWidge
   // The grid, which has the focus nearly always, marks its current cell instead.
   const bool grid = qobject_cast<const QTableView*>(&widget) != nullptr;
   const QColor edge = grid ? Theme::Current().fieldEdge : EdgeOf(option);
-  PaintPanel(painter, option.rect, {Theme::Current().base, edge, kScrollingRadius});
+  PaintEdge(painter, option.rect, edge);
   return true;
 }
 

@@ -104,8 +104,9 @@ bool DesktopIsDark(const QApplication& application) {
 QFont InterfaceFont(double points, bool bold) {
   static const QString family = [] {
     const QString preferred = QStringLiteral("Noto Sans");
-    if (QFontDatabase::hasFamily(preferred)) return preferred;
-    return QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
+    return QFontDatabase::hasFamily(preferred)
+               ? preferred
+               : QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
   }();
   QFont font(family);
   font.setPointSizeF(points);
