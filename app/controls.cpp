@@ -127,12 +127,20 @@ void VisitSheet(const MainForm& form, ControlVisitor& visitor) {
   visitor.Text({"txtNoteFileName"}, form.txtNoteFileName);
 }
 
+/// Who is displayed, and whose dice are in the test when they are somebody else's.
+std::string WhoRolls(const MainForm& form) {
+  const Slot owner = form.ngdr.PoolOwner();
+  const std::string& name = form.fight.Players[form.fight.CurrentPCpointer].Name;
+  if (owner == 0 || owner == form.fight.CurrentPCpointer) return name;
+  return name + ", pool of " + form.fight.Players[owner].Name;
+}
+
 }  // namespace
 
 void VisitRollerControls(const MainForm& form, ControlVisitor& visitor) {
   const DiceRoller& roller = form.ngdr;
   const PlayerRecord& record = form.fight.Players[form.fight.CurrentPCpointer];
-  visitor.Text({"lblName"}, record.Name);
+  visitor.Text({"lblName"}, WhoRolls(form));
   visitor.Text({"lblSkill"}, std::string(Piece(roller.lblSkill, '\t', 0)));
   visitor.Text({"lblDamageCode"}, roller.DamageCode);
   visitor.Text({"lblBulletCount"}, PlainText(roller.BulletCount));

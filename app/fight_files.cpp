@@ -134,8 +134,8 @@ bool FightFiles::SaveState() {
   form_.statusMessage = "Fight saved";
   const std::string leftOut = Joined(NamesLeftOut(form_.fight));
   if (!leftOut.empty()) {
-    form_.statusMessage +=
-        "; beyond slot " + PlainText(form_.fight.NumPlayers) + " and so not in the file: " + leftOut;
+    form_.statusMessage += "; beyond slot " + PlainText(form_.fight.NumPlayers) +
+                           " and so not in the file: " + leftOut;
   }
   // The file names the note files and holds no notes.
   const std::string unfiled = Joined(NamesWithUnfiledNotes(form_.fight));

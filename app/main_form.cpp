@@ -52,7 +52,8 @@ MainForm::MainForm(Environment& environment, LoaderForm& loader, OptionsForm& op
       actions(fight, characters, GridX, sequencer, gmLog, environment.prompts, *this),
       damageMonitor(fight, damage, sequencer),
       ngdr(
-          fight, environment.uniform, environment.prompts, [this](Integer left) { CP(left); },
+          fight, environment.uniform, environment.prompts,
+          [this](Slot slot, Integer left) { SpendPool(slot, left); },
           [this](Weapon weapon) { return WieldsInMelee(weapon); }),
       firing(fight, characters, weapons, ngdr, gmLog, environment.prompts, environment.settings),
       skillTests(fight, firing, ngdr, skillLevel, environment.prompts, environment.settings),
@@ -311,6 +312,14 @@ void MainForm::CP(Integer value) {
   if (!Displaying()) return;
   Displayed().CP = value;
   pools.txtCP = PlainText(value);
+}
+
+void MainForm::SpendPool(Slot slot, Integer left) {
+  if (slot == fight.CurrentPCpointer) {
+    CP(left);
+  } else if (slot != 0) {
+    fight.Players[slot].CP = left;
+  }
 }
 
 void MainForm::optRangeSel(Weapon weapon, int range) {

@@ -236,6 +236,8 @@ class MainForm : private SequencerHost {
   /// Shows what an action may have changed of the displayed combatant.
   void ShowHeader() { header.Show(fight.Players[fight.CurrentPCpointer]); }
   void UpdateWeapons();
+  /// Takes over the combat pool that a test left of a combatant.
+  void SpendPool(Slot slot, Integer left);
   bool WieldsInMelee(Weapon weapon) const;
   void ToggleCarried(std::vector<CarriedLine> CharacterEntry::*list, int index);
 

@@ -80,7 +80,7 @@ void Firing::Fire(Weapon weapon, Integer shots) {
   PlayerRecord& record = Displayed();
   record.FiredThisTurn = rounds > 0;
   if (rounds > 0) {
-    panel_.txtShots[w] = PlainText(LenientInteger(panel_.txtShots[w]) + rounds);
+    panel_.txtShots[w] = PlainText(LeadingNumber(panel_.txtShots[w]) + rounds.Value());
   }
   record.SkillWeapType = weapon == Weapon::Primary ? 1 : 2;
   UpdateWeaponModifiers();
@@ -148,7 +148,7 @@ void Firing::Ready(Weapon weapon, std::string_view line, const RangeTable& range
 Integer Firing::AmmoLeft(Weapon weapon) const {
   const std::size_t w = IndexOf(weapon);
   if (panel_.lblAmmo[w].empty()) return 0;
-  return Capacity(panel_.lblAmmo[w]) - LenientInteger(panel_.txtShots[w]);
+  return ToInteger(Capacity(panel_.lblAmmo[w]).Value() - LeadingNumber(panel_.txtShots[w]));
 }
 
 Integer Firing::RecoilRounds(Integer rounds) const {

@@ -37,10 +37,9 @@ void SkillTests::ChooseSkill(SkillUse use, const std::string& line) {
   record.Skill = lblSkill;
   record.*slot.name = line;
   record.*slot.value = 0;
-  // A dialog closed without a choice leaves the level at 0.
-  levels_.SelValue = 0;
   levels_.SkillString(lblSkill);
   if (levels_.valid()) prompts_.ShowModal(ModalForm::SkillLevel);
+  // A dialog closed without a choice hands back the level chosen before; kept so.
   record.*slot.value = levels_.SelValue;
 }
 
@@ -60,7 +59,6 @@ void SkillTests::Unarmed() {
 }
 
 void SkillTests::BodyTest() {
-  if (fight_.CurrentPCpointer == 0) return;
   if (firing_.HasTurn()) {
     prompts_.Message("Cannot Dodge/Body on your turn");
     return;

@@ -88,7 +88,15 @@ void DiceRoller::TakePool() {
 }
 
 void DiceRoller::FollowPool() {
-  if (poolOwner_ != fight_.CurrentPCpointer || poolTaken_ != Displayed().CP) TakePool();
+  const PlayerRecord& owner = fight_.Players[poolOwner_];
+  if (txtCPx == PlainText(poolTaken_) || owner.Name.empty()) {
+    if (poolOwner_ != fight_.CurrentPCpointer || poolTaken_ != Displayed().CP) TakePool();
+    return;
+  }
+  const double change = owner.CP.Value() - poolTaken_.Value();
+  if (change == 0) return;
+  poolTaken_ = owner.CP;
+  txtCPx = PlainText(std::max(LeadingNumber(txtCPx) + change, 0.0));
 }
 
 void DiceRoller::cmdRoll() {
@@ -111,7 +119,8 @@ void DiceRoller::cmdRoll() {
   txtSuccess = PlainText(successes);
   txtHighNumber = PlainText(highest);
   lblRuleOfOne = allOnes;
-  CP_(LenientInteger(txtCPx));
+  poolTaken_ = LenientInteger(txtCPx);
+  CP_(poolOwner_, poolTaken_);
   // A defender rolls against the attacker's count, so only attacks leave one.
   if (tabTest == TestPage::Ranged || tabTest == TestPage::Melee) txtLastSuccesses = txtSuccess;
   prompts_.Beep();

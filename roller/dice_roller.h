@@ -29,8 +29,8 @@ class DiceRoller {
     std::string written;
   };
 
-  /// Hands the combat pool that a test leaves to the displayed combatant.
-  using PoolFunction = std::function<void(Integer)>;
+  /// Hands the combat pool that a test leaves to the combatant whose dice it took.
+  using PoolFunction = std::function<void(Slot, Integer)>;
   /// Whether the displayed combatant wields this weapon with a melee skill.
   using MeleeFunction = std::function<bool(Weapon)>;
 
@@ -116,9 +116,12 @@ class DiceRoller {
   /// Sets all boxes of the page to 0.
   void cmdZeroAll();
 
-  /// Takes up the combat pool of the displayed combatant when somebody else is displayed, or the
-  /// pool changed elsewhere, so that a roll never hands one combatant's dice to another.
+  /// To be called when a command has run. The pool is the displayed combatant's until dice of it
+  /// are in the test; then it stays with its owner, whoever is looked at, so that a roll never
+  /// spends somebody else's dice, and goes up and down with the owner's pool.
   void FollowPool();
+  /// Whose dice the test takes.
+  Slot PoolOwner() const { return poolOwner_; }
 
   /// The main window's choice of a range bracket; the base number of the weapon that attacked last
   /// follows it.

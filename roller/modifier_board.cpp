@@ -89,11 +89,20 @@ Steps::iterator FindStep(Steps steps, const std::string& text) {
   });
 }
 
+/// One further than the text says, whatever was typed there, but not past the last step.
+std::string Counted(Steps steps, const std::string& text) {
+  const double last = LeadingNumber(steps.back());
+  const double next = LeadingNumber(text) + (last > 0 ? 1 : -1);
+  if (last > 0 ? next >= last : next <= last) return steps.back();
+  const auto step = FindStep(steps, PlainText(next));
+  return step != steps.end() ? *step : PlainText(next);
+}
+
 std::string NextStep(Steps steps, Stepping stepping, const std::string& text) {
+  if (stepping == Stepping::StopsAtLast) return Counted(steps, text);
   const auto step = FindStep(steps, text);
   if (step == steps.end()) return steps.front();
-  if (step + 1 != steps.end()) return step[1];
-  return stepping == Stepping::StopsAtLast ? steps.back() : steps.front();
+  return step + 1 != steps.end() ? step[1] : steps.front();
 }
 
 }  // namespace

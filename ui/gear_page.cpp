@@ -69,11 +69,13 @@ QGroupBox* MakeWeapons(QWidget* parent) {
   QVBoxLayout* rows = MakeGroupRows(group);
   rows->setSpacing(6);
   rows->addWidget(
-      MakeList({"lstWeapon", "Weapons", "Check mark: carried. The marked line goes into a hand"},
-               {ListColumn{"Carried weapon"}, ListColumn{"Damage", 96}, ListColumn{"Conceal", 62},
-                ListColumn{"Figures", 104}, ListColumn{"Ammo", 54},
-                ListColumn{"Weight", kWeightColumn, Qt::AlignRight}},
-               group),
+      MakeList(
+          {"lstWeapon", "Weapons", "Check mark: carried. The marked line goes into a hand"},
+          {ListColumn{"Carried weapon"}, ListColumn{"Damage", 100, Qt::AlignLeft, 62},
+           ListColumn{"Conceal", 62, Qt::AlignLeft, 52},
+           ListColumn{"Figures", 128, Qt::AlignLeft, 60}, ListColumn{"Ammo", 54, Qt::AlignLeft, 46},
+           ListColumn{"Weight", kWeightColumn, Qt::AlignRight, 50}},
+          group),
       1);
   rows->addLayout(MakeHandRow(group));
   return group;

@@ -20,7 +20,7 @@ constexpr int kNameColumn = 140;
 InfoWindow::InfoWindow(const Perform& perform, QWidget* parent)
     : SideWindow(QStringLiteral("frmInfo"), tr("Item Information"), "frmInfo.Close", perform,
                  parent) {
-  resize(420, 430);
+  resize(420, 470);
   item_ = MakeValue(QStringLiteral("lblItem"), this);
   item_->setTextFormat(Qt::PlainText);
   item_->setWordWrap(true);

@@ -30,6 +30,40 @@ void Name(QWidget* widget, const Naming& naming) {
   widget->setToolTip(naming.tip);
 }
 
+/// The column that takes what the others leave is the name, which says more than any figure.
+constexpr int kNameRoom = 150;
+
+/// A list whose columns follow its width.
+class ColumnList : public QTreeWidget {
+ public:
+  ColumnList(std::initializer_list<ListColumn> columns, QWidget* parent)
+      : QTreeWidget(parent), columns_(columns) {
+    for (const ListColumn& column : columns_) {
+      width_ += column.width;
+      if (column.leastWidth > 0) give_ += column.width - column.leastWidth;
+    }
+  }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QTreeWidget::resizeEvent(event);
+    if (give_ == 0) return;
+    const int wanted = std::clamp(width_ + kNameRoom - viewport()->width(), 0, give_);
+    for (int i = 0; i < static_cast<int>(columns_.size()); ++i) {
+      const ListColumn& column = columns_[static_cast<std::size_t>(i)];
+      if (column.leastWidth == 0) continue;
+      const int taken = (column.width - column.leastWidth) * wanted / give_;
+      header()->resizeSection(i, column.width - taken);
+    }
+  }
+
+ private:
+  std::vector<ListColumn> columns_;
+  /// Of all columns with a width, and what they can give away.
+  int width_ = 0;
+  int give_ = 0;
+};
+
 void AddColumn(QTreeWidget* list, int index, const ListColumn& column) {
   QHeaderView* header = list->header();
   list->headerItem()->setText(index, column.title);
@@ -177,7 +211,7 @@ void Embolden(QWidget* widget) {
 
 QTreeWidget* MakeList(const Naming& naming, std::initializer_list<ListColumn> columns,
                       QWidget* parent) {
-  auto* list = new QTreeWidget(parent);
+  auto* list = new ColumnList(columns, parent);
   Name(list, naming);
   list->setColumnCount(static_cast<int>(columns.size()));
   list->setRootIsDecorated(false);

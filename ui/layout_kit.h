@@ -73,11 +73,13 @@ QPushButton* MakeButton(const Naming& naming, const QString& text, QWidget* pare
 void Embolden(QWidget* widget);
 
 /// A column of a list; with width 0 it takes what the others leave. The lines are aligned as the
-/// header is.
+/// header is. Where that would be too little, the others shrink, each down to its least width.
 struct ListColumn {
   QString title;
   int width = 0;
   Qt::Alignment alignment = Qt::AlignLeft;
+  /// 0 for a column that keeps its width.
+  int leastWidth = 0;
 };
 
 /// A flat list that shrinks freely. Without titles it has no header.

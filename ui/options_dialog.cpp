@@ -45,12 +45,12 @@ OptionsDialog::OptionsDialog(Session& session, Occasion occasion, QWidget* paren
     : QDialog(parent), session_(session) {
   setObjectName(QStringLiteral("frmOptions"));
   setWindowTitle(tr("Options"));
-  resize(650, 424);
+  resize(720, 470);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(12, 10, 12, 12);
   column->setSpacing(8);
   if (occasion == Occasion::FirstStart) {
-    resize(650, 500);
+    resize(720, 540);
     auto* welcome = new QLabel(FirstStartText(), this);
     welcome->setWordWrap(true);
     column->addWidget(welcome);

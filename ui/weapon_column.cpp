@@ -155,13 +155,13 @@ QHBoxLayout* WeaponColumn::MakeFigures() {
   };
   // The magazine comes last and has the most room: its text is the longest.
   static constexpr std::array<Figure, 3> kFigures = {
-      {{{"lblDamage", "Damage", "Damage code"}, 92, 22},
-       {{"lblConceal", "Conceal", "Concealability"}, 75, 16},
-       {{"lblAmmo", "Mag.", "Magazine: rounds and how it is loaded"}, 129, 40}}};
+      {{{"lblDamage", "Damage", "Damage code"}, 92, 28},
+       {{"lblConceal", "Conceal", "Concealability"}, 75, 14},
+       {{"lblAmmo", "Mag.", "Magazine: rounds and how it is loaded"}, 129, 38}}};
   QHBoxLayout* row = MakeRow(2);
   for (const auto& [words, share, leastWidth] : kFigures) {
     ElidedLabel* figure = MakeElided(Own(words.name), this);
-    figure->setFont(InterfaceFont(kTitlePoints, true));
+    Embolden(figure);
     figure->setMinimumWidth(leastWidth);
     figure->setToolTip(words.tip);
     QHBoxLayout* slot = MakeRow();

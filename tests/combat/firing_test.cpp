@@ -194,7 +194,7 @@ TEST_F(FiringTest, WeaponsComeFromTheListAndGo) {
 TEST_F(FiringTest, SkillsAreChosenAndHandedOver) {
   for (const auto& [answer, level] : {std::pair{Act{"frmSelSkillLevel.cmdSkillSelect", 0}, 4},
                                       {specialisation, 6},
-                                      {Act{"frmSelSkillLevel.Close"}, 0}}) {
+                                      {Act{"frmSelSkillLevel.Close"}, 6}}) {
     Choose("cmdSkillPrimary", 0, answer);
     EXPECT_EQ(ash.SkillPrimaryValue.Value(), level);
   }
@@ -216,6 +216,30 @@ TEST_F(FiringTest, SkillsAreChosenAndHandedOver) {
   EXPECT_EQ(roller.tabTest, TestPage::Melee);
   EXPECT_EQ(roller.txtTargetNum, "4");  // the gun's recoil is of no concern
   EXPECT_FALSE(roller.visible);
+}
+
+TEST_F(FiringTest, DiceInATestStayTheirOwners) {
+  Ready("cmdSetPrim", 0);
+  const int before = ash.CP.Value();
+  program.Do("cmdShots1");
+  program.Do("ngdr.cmdCPplusMinus", 0);
+  program.Do("ngdr.cmdCPplusMinus", 0);
+  // A look at somebody else neither gives them back nor charges the one looked at.
+  program.Do("GridX_Click", 2);
+  EXPECT_EQ(roller.txtCPx, std::to_string(before - 2));
+  const Integer others = program.fight.Players[2].CP;
+  program.uniform.RepeatFace(2);
+  program.Do("ngdr.cmdRoll");
+  EXPECT_EQ(ash.CP.Value(), before - 2);
+  EXPECT_EQ(program.fight.Players[2].CP, others);
+  // Without dice in the test the box follows who is displayed, and what is added elsewhere counts.
+  EXPECT_EQ(roller.txtCPx, std::to_string(others.Value()));
+  program.Do("GridX_Click", 1);
+  program.Do("ngdr.cmdCPplusMinus", 0);
+  program.Do("cmdCPplus");
+  EXPECT_EQ(roller.txtCPx, std::to_string(before - 2));
+  program.Do("ngdr.cmdRoll");
+  EXPECT_EQ(main.pools.txtCP, std::to_string(before - 2));
 }
 
 TEST_F(FiringTest, AWholeExchange) {

@@ -23,7 +23,7 @@ struct Roller : testing::Test {
   Fight fight;
   PlayerRecord& vex = fight.Players[1];
   bool melee = false;
-  DiceRoller roller{fight, uniform, prompts, [this](Integer pool) { vex.CP = pool; },
+  DiceRoller roller{fight, uniform, prompts, [this](Slot, Integer pool) { vex.CP = pool; },
                     [this](Weapon) { return melee; }};
 };
 

@@ -62,10 +62,12 @@ TEST(ModifierBoard, CaptionsStepTheirBoxes) {
     for (std::string& text : board.txtRVar) text = "7 or so";
     ModifierBoard expected = board;
     if (opposite != 0) expected.txtRVar[opposite] = "0";
-    // The first click starts again, since what was typed is no step; the second sees a 0 as typed.
+    // What was typed is no step: the first click starts again, but a counter counts on from there,
+    // down to 6 or held at its upper limit. The second click sees a 0 as typed.
+    const std::string started = opposite == 0 ? "0" : Piece(line, ' ', 3) == "+1" ? "4" : "6";
     for (int click = 2; click == 2 || !Piece(line, ' ', click).empty(); ++click) {
       board.Step(caption, {-2, 3});
-      expected.txtRVar[box] = click == 2 ? "0" : Piece(line, ' ', click);
+      expected.txtRVar[box] = click == 2 ? started : std::string(Piece(line, ' ', click));
       EXPECT_EQ(board.txtRVar, expected.txtRVar) << line << " at " << click;
       if (click == 2) board.txtRVar[box] = "0.0";
     }
