@@ -9,6 +9,7 @@
 #include <QTabWidget>
 #include <QTableView>
 #include <QTreeWidget>
+#include <array>
 
 #include "ui/roller_window.h"
 #include "ui/text.h"
@@ -66,6 +67,7 @@ class SampleFight {
   void Suffer();
   void LetOthersAct();
   void TakePages();
+  void TakePages(const std::array<const char*, 4>& pictures);
   void TakePlainWindows();
   void FinishTurn();
   void SaveAndRestore();
@@ -225,16 +227,20 @@ void SampleFight::LetOthersAct() {
   Roller().close();
 }
 
-void SampleFight::TakePages() {
-  Say("The pages");
-  const char* const kPages[] = {"main-window", "gear-page", "person-page", "notes-page"};
+void SampleFight::TakePages(const std::array<const char*, 4>& pictures) {
+  // The combat page comes last and stays.
   for (int page = 3; page >= 0; --page) {
     Find<QTabWidget>("tabMain").setCurrentIndex(page);
-    guide_.Take(Window(), kPages[page]);
+    guide_.Take(Window(), pictures[static_cast<std::size_t>(page)]);
   }
-  Say("The least size");
+}
+
+void SampleFight::TakePages() {
+  Say("The pages");
+  TakePages({"main-window", "gear-page", "person-page", "notes-page"});
+  Say("The pages in the least window");
   Resize(kLeastWindow);
-  guide_.Take(Window(), "least-window");
+  TakePages({"least-window", "least-gear-page", "least-person-page", "least-notes-page"});
   Resize(kUsualSize);
   Say("The other colours");
   Press("mnuViewDark");

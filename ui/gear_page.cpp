@@ -135,7 +135,7 @@ QGroupBox* MakeGear(QWidget* parent) {
   rows->setSpacing(6);
   rows->addWidget(MakeList({"lstGear", "Gear", "Check mark: carried"},
                            {ListColumn{"Carried gear"},
-                            ListColumn{"Weight", kWeightColumn + 6, Qt::AlignRight}},
+                            ListColumn{"Weight", kWeightColumn + 6, Qt::AlignRight, 48}},
                            group),
                   1);
   QLabel* weight = MakeValue("lblWeight", group);

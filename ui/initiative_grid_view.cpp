@@ -216,7 +216,8 @@ void InitiativeGridView::PaintHint(QPainter& painter) const {
   painter.setPen(Theme::Current().muted);
   painter.drawText(viewport()->rect().adjusted(14, 17, -4, 0), Qt::AlignLeft | Qt::AlignTop,
                    tr("No combatants yet.\nImport characters with\nOpen (Ctrl+O), or take up\n"
-                      "a saved fight with\nFile \u203a Load State (Ctrl+L)."));
+                      "a saved fight with\nFile \u203a Load State (Ctrl+L).\n"
+                      "Files may be dropped here, too.\n\nHelp (F1) tells how a turn runs."));
 }
 
 void InitiativeGridView::PaintFrames(QPainter& painter) const {

@@ -18,10 +18,11 @@ class Swatch : public QWidget {
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
+    painter.fillRect(rect(), colour_);
     painter.setPen(QPen(Qt::black, frame_, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter.setBrush(colour_);
-    const qreal half = frame_ / 2;
-    painter.drawRect(QRectF(rect()).adjusted(half, half, -half, -half));
+    // A thick frame needs an edge round it to be seen on a dark window.
+    const qreal inset = frame_ / 2 + (frame_ > 1 ? 1 : 0);
+    painter.drawRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset));
   }
 
  private:
@@ -45,7 +46,7 @@ Legend::Legend(QWidget* parent) : QWidget(parent) {
   add({12, 12}, QColor(0, 255, 0), 1, tr("turn"));
   add({12, 12}, QColor(255, 255, 0), 1, tr("delay"));
   add({12, 12}, QColor(255, 0, 0), 1, tr("inactive"));
-  add({20, 12}, Qt::white, 2, tr("shown"));
+  add({20, 14}, Qt::white, 2, tr("shown"));
   row->addStretch();
 }
 
