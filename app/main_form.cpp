@@ -101,6 +101,8 @@ void MainForm::mnuFileOpen() {
 void MainForm::Form_Drop(const std::string& names) { fightFiles.OpenFiles(FileNames(names)); }
 
 void MainForm::mnuFileExit() {
+  // What stands on the sheet is a part of the fight.
+  SyncSheet();
   if (fightFiles.Changed()) {
     const SaveChoice choice = environment_.prompts.AskToSave(
         "The fight has changed since it was last saved. Save it now?");

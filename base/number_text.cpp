@@ -36,6 +36,12 @@ bool ReadPlainDecimal(std::string_view text, double& value) {
   return true;
 }
 
+/// Of a number that does not fit: whether it is too small and not too large.
+bool IsTooSmall(std::string_view number) {
+  if (number.find_first_of("eE") != std::string_view::npos) return Contains(number, "-");
+  return number.find_first_not_of('0') == number.find('.');
+}
+
 }  // namespace
 
 double RoundHalfEven(double value) {
@@ -65,7 +71,7 @@ double LeadingNumber(std::string_view text) {
   if (result.ec == std::errc::result_out_of_range) {
     // Too small to hold is 0; too large ends in Overflow where the number is used.
     const std::string_view number(text.data(), static_cast<std::size_t>(result.ptr - text.data()));
-    value = Contains(number, "-") ? 0 : std::numeric_limits<double>::infinity();
+    value = IsTooSmall(number) ? 0 : std::numeric_limits<double>::infinity();
   }
   return negative ? -value : value;
 }

@@ -144,10 +144,9 @@ void MarkCarried(std::vector<CarriedLine>& lines) {
 
 }  // namespace
 
-std::string ImportedName(const ProfileFile& file, Integer earlierImports) {
+std::string ImportedName(const ProfileFile& file) {
   std::string name = DecodeNG3(file.Value("General", "CharName"));
   if (file.Value("System", "Finalize") != "True") name.insert(0, "(NF)");
-  if (earlierImports > 0) name += "::" + PlainText(earlierImports);
   return name;
 }
 

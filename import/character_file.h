@@ -14,9 +14,8 @@ struct ImportedCharacter {
   CharacterEntry entry;
 };
 
-/// The name as the table shows it: "(NF)" before the name of an unfinished character, and "::" and
-/// the count behind it when `earlierImports` combatants came from the same file.
-std::string ImportedName(const ProfileFile& file, Integer earlierImports);
+/// The name, with "(NF)" before that of an unfinished character.
+std::string ImportedName(const ProfileFile& file);
 
 /// Reads initiative dice and reaction into the record. Overflow outside the 16-bit range.
 void ReadInitiative(const ProfileFile& file, PlayerRecord& record);

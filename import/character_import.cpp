@@ -26,7 +26,7 @@ ImportedCharacter ReadCharacter(const ImportTarget& target, const std::string& f
   ProfileFile file(ReadProfileText(target.files, fullName));
   ImportedCharacter character;
   PlayerRecord& record = character.record;
-  record.Name = ImportedName(file, EarlierImports(target.fight, fullName));
+  record.Name = ImportedName(file);
   record.Filename = fullName;
   character.entry.Filename = fullName;
   ReadInitiative(file, record);
@@ -38,18 +38,32 @@ ImportedCharacter ReadCharacter(const ImportTarget& target, const std::string& f
   return character;
 }
 
-/// Takes the slot and, at the end of the order, a place.
-void TakeSlot(Fight& fight, Slot slot, PlayerRecord record) {
-  fight.Players[slot] = std::move(record);
-  // A nameless combatant is not counted and so stands in no place of the order.
-  const OrderPosition last = fight.CountPlayers();
-  if (!fight.Players[slot].Name.empty()) fight.InitOrder[last] = slot;
-}
-
 Slot RequiredSlot(const Fight& fight) {
   const Slot slot = fight.FindFreeSlot();
   if (slot == 0) ThrowSubscript();
   return slot;
+}
+
+/// Imports a sheet and returns the combatant that it makes. All that can fail comes before the
+/// first change.
+PlayerRecord ImportSheet(const ImportTarget& target, const std::string& fullName) {
+  const CharacterIndex index = target.characters.FindFree();
+  ImportedCharacter character = ReadCharacter(target, fullName);
+  character.record.CharacterData = index;
+  target.characters.entries[index] = std::move(character.entry);
+  target.fight.InfoCnt = target.characters.Count();
+  return std::move(character.record);
+}
+
+/// Takes the slot and, at the end of the order, a place. A further combatant of one file has its
+/// number behind the name.
+void TakeSlot(Fight& fight, Slot slot, PlayerRecord record) {
+  const Integer earlier = EarlierImports(fight, record.Filename);
+  if (earlier > 0) record.Name += "::" + PlainText(earlier);
+  fight.Players[slot] = std::move(record);
+  // A nameless combatant is not counted and so stands in no place of the order.
+  const OrderPosition last = fight.CountPlayers();
+  if (!fight.Players[slot].Name.empty()) fight.InitOrder[last] = slot;
 }
 
 }  // namespace
@@ -57,27 +71,18 @@ Slot RequiredSlot(const Fight& fight) {
 Slot LoadCharacterFile(const ImportTarget& target, const std::string& fileName) {
   const std::string fullName = FullCharacterName(target.settings.NG3Dir, fileName);
   const Slot slot = RequiredSlot(target.fight);
-  const CharacterIndex index = target.characters.FindFree();
-
-  // All that can fail comes before the first change.
-  ImportedCharacter character = ReadCharacter(target, fullName);
-  character.record.CharacterData = index;
-  target.characters.entries[index] = std::move(character.entry);
-  target.fight.InfoCnt = target.characters.Count();
-  TakeSlot(target.fight, slot, std::move(character.record));
+  TakeSlot(target.fight, slot, ImportSheet(target, fullName));
   return slot;
 }
 
 Slot LoadCharacterFile(const ImportTarget& target, ImportedSheets& sheets,
                        const std::string& fileName) {
   const std::string fullName = FullCharacterName(target.settings.NG3Dir, fileName);
-  const auto known = sheets.find(fullName);
-  if (known == sheets.end()) {
-    const Slot slot = LoadCharacterFile(target, fullName);
-    sheets.emplace(fullName, target.fight.Players[slot]);
-    return slot;
-  }
   const Slot slot = RequiredSlot(target.fight);
+  auto known = sheets.find(fullName);
+  if (known == sheets.end()) {
+    known = sheets.emplace(fullName, ImportSheet(target, fullName)).first;
+  }
   TakeSlot(target.fight, slot, known->second);
   return slot;
 }

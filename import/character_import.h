@@ -25,7 +25,7 @@ struct ImportTarget {
 /// runtime error on the way leaves a trace of this character in the fight.
 Slot LoadCharacterFile(const ImportTarget& target, const std::string& fileName);
 
-/// The combatants that one restoring of a fight has imported, by full file name.
+/// The combatants that the files of one restoring of a fight make, by full file name.
 using ImportedSheets = std::map<std::string, PlayerRecord>;
 
 /// The same for restoring a fight: a file that `sheets` knows is not read again, and its combatants

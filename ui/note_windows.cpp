@@ -30,6 +30,8 @@ bool ShowLines(QTreeWidget& list, const std::vector<std::string>& lines) {
   const QSignalBlocker quiet(list);
   list.clear();
   for (const std::string& line : lines) new QTreeWidgetItem(&list, {ToQString(line)});
+  // The newest line is the one to begin with.
+  list.setCurrentItem(list.topLevelItem(count - 1), 0, QItemSelectionModel::NoUpdate);
   return true;
 }
 

@@ -171,8 +171,20 @@ TEST_F(FightFilesTest, ClosingAsksForAChangedFightOnly) {
   EXPECT_TRUE(exit(Kind::Discard));
   program.main.closing = false;
   Save(program);
+  program.Do("cmdKPplus");  // stands on the sheet only, until the sheet is stored
+  EXPECT_FALSE(exit(Kind::Cancel));
+  Save(program);
   program.Do("mnuFileExit");
   EXPECT_TRUE(program.main.closing);
+}
+
+TEST_F(FightFilesTest, AStateLaidOverAFightGoesOnCounting) {
+  Save(program);
+  Load(program);
+  ASSERT_EQ(program.fight.CountPlayers().Value(), 6);
+  const auto& players = program.fight.Players;
+  EXPECT_EQ(players[4].Name + " " + players[5].Name + " " + players[6].Name,
+            "Ash::2 Birch::1 Ash::3");
 }
 
 TEST_F(FightFilesTest, NotesHaveAFileOfTheirOwnOrStayWhileTheProgramRuns) {

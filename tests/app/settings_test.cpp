@@ -127,6 +127,11 @@ TEST(Startup, WithoutACharacterDirectoryTheOptionsComeFirstAndCountFromTheNextSt
   EXPECT_EQ(settings.DatDir, "E:\\tables");
   EXPECT_TRUE(static_cast<bool>(settings.CloneInit));
 
+  // Opened again in the same run, the dialog does not forget what it wrote.
+  program.prompts.answers.push_back(
+      {ScriptedPrompts::Answer::Kind::Modal, "", {{"frmOptions.cmdOK"}}});
+  program.Do("mnuViewOptions");
+
   // The next start has all of it and asks nothing.
   program.prompts.TakeLog();
   Main(program.session, windows);

@@ -18,7 +18,11 @@ TEST(NumberText, LenientReadingTakesTheLeadingNumber) {
       {"1e", 1},  {"inf", 0}, {"nan", 0},   {"12 34", 12}, {"1e-999", 0},  {"0x10", 0},
   };
   for (const auto& [text, value] : cases) EXPECT_EQ(LeadingNumber(text), value) << text;
-  EXPECT_RUNTIME_ERROR(LenientInteger("1e999"), "Overflow");
+  EXPECT_EQ(LeadingNumber("0." + std::string(400, '0') + "1"), 0);
+  for (const char* text : {"1e999", "-1e999"}) {
+    EXPECT_RUNTIME_ERROR(LenientInteger(text), "Overflow");
+  }
+  EXPECT_RUNTIME_ERROR(LenientInteger(std::string(400, '7')), "Overflow");
 }
 
 TEST(NumberText, IntegersRoundHalvesToEvenAndStayInRange) {
