@@ -1,7 +1,6 @@
 #include "ui/header_panel.h"
 
 #include <QBoxLayout>
-#include <QButtonGroup>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -86,13 +85,12 @@ QBoxLayout* HeaderPanelView::BuildInitiative() {
   AddBox(*row, "txtReac_1", 34, tr("Reaction, augmented"));
   row->addSpacing(5);
 
-  auto* modes = new QButtonGroup(this);
+  // The only radio buttons of this panel, so that they exclude one another.
   int index = 0;
   for (const QString& text : {tr("Ph&ysical"), tr("&Astral")}) {
     auto* mode = new QRadioButton(text, this);
-    mode->setObjectName(QStringLiteral("optInitMode_%1").arg(index));
+    mode->setObjectName(QStringLiteral("optInitMode_%1").arg(index++));
     mode->setToolTip(tr("Initiative mode, from the next reroll on"));
-    modes->addButton(mode, index++);
     row->addWidget(mode);
   }
   return row;

@@ -240,12 +240,12 @@ void InitiativeGridView::resizeEvent(QResizeEvent* event) {
 
 void InitiativeGridView::focusInEvent(QFocusEvent* event) {
   // The base class would choose a current cell of its own.
-  QAbstractScrollArea::focusInEvent(event);
+  QAbstractScrollArea::focusInEvent(event);  // NOLINT(bugprone-parent-virtual-call)
   viewport()->update();
 }
 
 void InitiativeGridView::focusOutEvent(QFocusEvent* event) {
-  QAbstractScrollArea::focusOutEvent(event);
+  QAbstractScrollArea::focusOutEvent(event);  // NOLINT(bugprone-parent-virtual-call)
   viewport()->update();
 }
 

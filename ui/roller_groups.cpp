@@ -8,6 +8,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QShortcut>
+#include <QTimer>
 
 #include "roller/dice_roller.h"
 #include "ui/layout_kit.h"
@@ -26,15 +27,19 @@ constexpr int kOddsLines = 2;
 /// the focus would set the cursor afterwards.
 class SelectOnFocus : public QObject {
  public:
-  explicit SelectOnFocus(QLineEdit* box) : QObject(box) { box->installEventFilter(this); }
+  explicit SelectOnFocus(QLineEdit* box) : QObject(box) {
+    afterwards_.setSingleShot(true);
+    connect(&afterwards_, &QTimer::timeout, box, &QLineEdit::selectAll);
+    box->installEventFilter(this);
+  }
 
-  bool eventFilter(QObject* object, QEvent* event) override {
-    if (event->type() == QEvent::FocusIn) {
-      auto* box = static_cast<QLineEdit*>(object);
-      QMetaObject::invokeMethod(box, &QLineEdit::selectAll, Qt::QueuedConnection);
-    }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::FocusIn) afterwards_.start(0);
     return false;
   }
+
+ private:
+  QTimer afterwards_;
 };
 
 void PressWithKey(Qt::Key key, QLineEdit* box, QPushButton* button) {

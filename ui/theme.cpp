@@ -88,6 +88,7 @@ QPalette Theme::Palette() const {
 void ApplyTheme(QApplication& application, const Theme& theme) {
   if (current == nullptr) {
     application.setStyle(new TrackerStyle);
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns its style.
     application.setFont(InterfaceFont(kTextPoints));
   }
   current = &theme;
