@@ -17,16 +17,14 @@
 namespace ng {
 namespace {
 
-/// A label of the form without the blanks in front, which kept it off the window's edge, and with
-/// the mnemonic marked.
+/// A label of the form with the mnemonic marked. The blanks in front set it in a little.
 QString Caption(const char* label, char mnemonic) {
-  QString text = QString::fromLatin1(label).trimmed();
+  QString text = QString::fromLatin1(label);
   return text.insert(text.indexOf(QLatin1Char(mnemonic)), QLatin1Char('&'));
 }
 
 QLabel* LabelFor(QWidget* buddy, const char* label, char mnemonic) {
   auto* caption = new QLabel(Caption(label, mnemonic), buddy->parentWidget());
-  caption->setIndent(6);
   caption->setBuddy(buddy);
   return caption;
 }

@@ -5,7 +5,10 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPointer>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTableView>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <functional>
@@ -38,6 +41,18 @@ inline void InNextDialog(const std::function<void(QDialog&)>& drive) {
     watch->deleteLater();
   });
   watch->start(1);
+}
+
+/// Runs the tests of a class.
+template <typename Test>
+int RunGuiTest(int argc, char** argv) {
+  // A home of its own, and not far down: a directory tree must reach it without scrolling sideways.
+  const QTemporaryDir home;
+  qputenv("HOME", home.path().toLocal8Bit());
+  qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+  QApplication application(argc, argv);
+  Test test;
+  return QTest::qExec(&test, argc, argv);
 }
 
 /// The whole program with its real windows over a disk in memory, started as it starts for the game
@@ -113,6 +128,10 @@ class GuiProgram : private StartupWindows {
     auto& grid = Find<QTableView>("GridX");
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, {},
                       grid.visualRect(Model().index(row - 1, column)).center());
+  }
+  void OpenPage(int page) const {
+    QTabBar& bar = *Find<QTabWidget>("tabMain").tabBar();
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(page).center());
   }
   /// Has the combatant displayed.
   void Display(const QString& name) const { ClickCell(RowOf(name), 0); }

@@ -3,8 +3,6 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QTabBar>
-#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -22,10 +20,6 @@ class WholeFightTest : public QObject {
   std::unique_ptr<GuiProgram> program_;
   const QTemporaryDir directory_;
 
-  void OpenPage(int page) const {
-    QTabBar& bar = *program_->Find<QTabWidget>("tabMain").tabBar();
-    QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(page).center());
-  }
   void ClickLine(const char* list, const char* text) const {
     auto& tree = program_->Find<QTreeWidget>(list);
     const auto lines = tree.findItems(QString::fromLatin1(text), Qt::MatchExactly);
@@ -84,10 +78,10 @@ void WholeFightTest::ShootAsVex() const {
   program_->Key(Qt::Key_T, Qt::ControlModifier);
   program_->Key(Qt::Key_F8);
   QCOMPARE(program_->GreenName(), QStringLiteral("Vex"));
-  OpenPage(1);
+  program_->OpenPage(1);
   ClickLine("lstWeapon", "Harrow 12 (SMG)");
   program_->Click("cmdSetPrim");
-  OpenPage(0);
+  program_->OpenPage(0);
   ClickLine("lstActive", "Submachine Guns");
   InNextDialog([](QDialog& dialog) {
     QTest::mouseClick(dialog.findChild<QWidget*>(QStringLiteral("cmdSkillSelect_1")),
@@ -116,7 +110,7 @@ void WholeFightTest::WoundAndWrite() const {
   program_->Display(QStringLiteral("Ganger"));
   program_->Key(Qt::Key_2, Qt::ControlModifier);
   program_->Display(QStringLiteral("Brand"));
-  OpenPage(3);
+  program_->OpenPage(3);
   Type("txtNotes", QStringLiteral("Owes_Vex"));
   program_->Key(Qt::Key_Return);
   QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("forty"));
@@ -180,12 +174,5 @@ void WholeFightTest::SurvivesARestart() {
 
 }  // namespace ng
 
-int main(int argc, char** argv) {
-  const QTemporaryDir home;
-  qputenv("HOME", home.path().toLocal8Bit());
-  qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
-  QApplication application(argc, argv);
-  ng::WholeFightTest test;
-  return QTest::qExec(&test, argc, argv);
-}
+int main(int argc, char** argv) { return ng::RunGuiTest<ng::WholeFightTest>(argc, argv); }
 #include "whole_fight_test.moc"
