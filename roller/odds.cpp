@@ -48,7 +48,7 @@ std::string OddsSentence(Integer dice, double target) {
   if (dice <= 0) return "No dice, so no success.";
   if (target <= 1) return "Every die is a success.";
   return "At least one success: " + Percentage(ChanceOfSuccess(dice, target)) +
-         ". On average: " + Average(ExpectedSuccesses(dice, target)) + ".";
+         ".\nOn average: " + Average(ExpectedSuccesses(dice, target)) + ".";
 }
 
 }  // namespace ng

@@ -17,8 +17,8 @@ double ChanceOfSuccess(Integer dice, double target);
 /// The successes that this many dice give on average.
 double ExpectedSuccesses(Integer dice, double target);
 
-/// Both in plain words, for the line below the number of dice. A chance is called certain only when
-/// it is; what is rounded away at either end is said to be "over" or "under".
+/// Both in plain words, a line each, for the place below the number of dice. A chance is called
+/// certain only when it is; what is rounded away at either end is said to be "over" or "under".
 std::string OddsSentence(Integer dice, double target);
 
 }  // namespace ng

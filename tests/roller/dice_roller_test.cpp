@@ -39,7 +39,7 @@ TEST_F(Roller, AnExchangeFromShotToShot) {
   roller.Caption_Click(*FindCaption("Label4"));
   EXPECT_EQ(roller.lblSum, "Base 5  +  modifiers 3  =  8");
   roller.cmdCPplusMinus(0);
-  EXPECT_EQ(roller.OddsLine(), "At least one success: 59.2 %. On average: 0.83.");
+  EXPECT_EQ(roller.OddsLine(), "At least one success: 59.2 %.\nOn average: 0.83.");
   uniform.PushFaces({6, 6, 2, 6, 2, 5, 4, 1, 6, 1});
   roller.cmdRoll();
   EXPECT_EQ(roller.txtResult, "14 08 05 04 01 07 ");

@@ -45,8 +45,8 @@ TEST(Odds, AreThoseWorkedOutByHand) {
   for (const auto& [target, chance] : byHand) EXPECT_NEAR(ChanceOfDie(target), chance, 1e-15);
   EXPECT_NEAR(ChanceOfSuccess(2, 6), 11 / 36., 1e-15);
   EXPECT_EQ(OddsSentence(-2, 1), "No dice, so no success.");
-  EXPECT_EQ(OddsSentence(30, 2), "At least one success: over 99.9 %. On average: 25.");
-  EXPECT_EQ(OddsSentence(1, 30), "At least one success: under 0.1 %. On average: under 0.01.");
+  EXPECT_EQ(OddsSentence(30, 2), "At least one success: over 99.9 %.\nOn average: 25.");
+  EXPECT_EQ(OddsSentence(1, 30), "At least one success: under 0.1 %.\nOn average: under 0.01.");
 }
 
 }  // namespace
