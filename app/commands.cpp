@@ -122,7 +122,7 @@ void OpenTestPage(Session& session, const Act& act) {
 
 const auto kCommands = std::to_array<Command>({
     {"mnuFileNew", Main<&MainForm::mnuFileNew>, Menu::File, 0, "&New", "Ctrl+Shift+N",
-     "Remove all combatants and begin with an empty table", "New", "New"},
+     "Remove the combatants and begin with an empty table", "New", "New"},
     {"mnuFileOpen", Main<&MainForm::mnuFileOpen>, Menu::File, 0, "&Open...", "Ctrl+O",
      "Import characters from their files", "Open", "Open"},
     {"mnuFileLoad", Main<&MainForm::mnuFileLoad>, Menu::File, 1, "&Load State...", "Ctrl+L",

@@ -127,12 +127,17 @@ void VisitSheet(const MainForm& form, ControlVisitor& visitor) {
   visitor.Text({"txtNoteFileName"}, form.txtNoteFileName);
 }
 
-/// Who is displayed, and whose dice are in the test when they are somebody else's.
+/// Who is displayed, and whose test and dice they are when they are somebody else's.
 std::string WhoRolls(const MainForm& form) {
-  const Slot owner = form.ngdr.PoolOwner();
-  const std::string& name = form.fight.Players[form.fight.CurrentPCpointer].Name;
-  if (owner == 0 || owner == form.fight.CurrentPCpointer) return name;
-  return name + ", pool of " + form.fight.Players[owner].Name;
+  const Slot shown = form.fight.CurrentPCpointer;
+  std::string name = form.fight.Players[shown].Name;
+  const Slot tested = form.ngdr.TestOwner();
+  const Slot paying = form.ngdr.PoolOwner();
+  if (tested != 0 && tested != shown) name += ", test of " + form.fight.Players[tested].Name;
+  if (paying != 0 && paying != shown && paying != tested) {
+    name += ", pool of " + form.fight.Players[paying].Name;
+  }
+  return name;
 }
 
 }  // namespace
@@ -147,6 +152,7 @@ void VisitRollerControls(const MainForm& form, ControlVisitor& visitor) {
   visitor.Text({"lblBody"}, roller.Body);
   visitor.Text({"lblArmour"}, PlainText(record.ArmorBAL) + " / " + PlainText(record.ArmorIMP));
   visitor.Choice({"tabTest"}, static_cast<int>(roller.tabTest));
+  visitor.Text({"lblBase"}, roller.BaseCaption());
   visitor.Text({"txtRangeTargetNumber"}, roller.txtRangeTargetNumber);
   visitor.Text({"txtMeleeNumber"}, roller.txtMeleeNumber);
   visitor.List({"cmbVisability"}, roller.visibilityNames);

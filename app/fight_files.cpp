@@ -66,13 +66,19 @@ SortedFiles Sorted(const std::vector<std::string>& paths) {
 
 /// The file's name alone where it lies in the character directory, so that it counts as the same
 /// file that the Open dialog finds there.
-std::string NameIn(const std::string& directory, const std::string& path) {
-  const std::size_t length = directory.size();
-  if (directory.empty() || path.size() <= length || !path.starts_with(directory) ||
-      !HasSeparator(path.substr(length, 1)) || HasSeparator(path.substr(length + 1))) {
-    return path;
+std::string NameIn(std::string_view directory, const std::string& path) {
+  while (!directory.empty() && HasSeparator(directory.substr(directory.size() - 1))) {
+    directory.remove_suffix(1);
   }
-  return path.substr(length + 1);
+  const std::size_t length = directory.size();
+  if (length == 0 || path.size() <= length || HasSeparator(path.substr(length + 1))) return path;
+  // The two separators are one, and letters count whatever their case, as on the disk.
+  const auto same = [](const std::string& a, std::string_view b) {
+    return EqualIgnoringCase(Replaced(a, "\\", "/"), Replaced(b, "\\", "/"));
+  };
+  const bool inside =
+      same(path.substr(0, length), directory) && HasSeparator(path.substr(length, 1));
+  return inside ? path.substr(length + 1) : path;
 }
 
 }  // namespace
@@ -154,7 +160,7 @@ void FightFiles::LoadState() {
 void FightFiles::LoadState(const std::string& path) {
   const ProfileFile file(environment_.files.ReadWhole(path));
   form_.StoreSheet();
-  sheets_ = {};
+  sheets_.clear();
   try {
     Progress progress(environment_.prompts, "Restoring the fight", CombatantsIn(file));
     loading_ = &progress;

@@ -43,14 +43,14 @@ constexpr Words kTurn[] = {
      "has the turn. A click shows the sheet and leaves the turn where it is."},
     {"6. Wound",
      "Click the row of whoever was hit and press L, M, S or D: 1, 3, 6 or 10 boxes. The wound "
-     "modifier comes off the score at once, and the table is sorted anew. Ten boxes on either "
-     "track make the score 0."},
+     "modifier comes off the score at once, and the table is sorted anew. The column PM tells stun "
+     "and physical damage by these letters. Ten boxes on either track make the score 0."},
     {"7. Next pass",
      "When nobody is left, all scores count 10 less and the next pass opens by itself. A score of "
      "23 acts in passes 1, 2 and 3."},
     {"8. End",
-     "\"End of turn!\" follows the tenth pass. From there {mnuTNext} only beeps: begin the next "
-     "turn as in step 2."},
+     "\"End of turn!\" follows the tenth pass. From there {mnuTNext} gives nobody a turn: begin "
+     "the next one as in step 2."},
     {"When something comes between", ""},
     {"Delay",
      "{mnuPDelay} in the combatant's own turn puts its action off. To let it act at once, show its "
@@ -92,9 +92,10 @@ constexpr Words kTest[] = {
 /// Keys that belong to no button.
 constexpr Words kGridKeys[] = {
     {"Esc", "To the table of combatants"},
-    {"Up, Down, PgUp, PgDown, Home, End", "Move the cell, without showing a sheet"},
+    {"Arrows, PgUp, PgDown, Home, End", "Move the cell, without showing a sheet"},
     {"Ctrl+Enter", "Show the sheet of the row with the cell"},
-    {"Letters and digits", "Type into the cell; Enter and Backspace edit it"},
+    {"Letters and digits", "Type into the cell; Backspace or . empties it"},
+    {"Enter", "To the roll of the next row"},
     {"Alt+1 ... Alt+4", "Open the page: Combat, Gear, Person, Notes"},
     {"Up, Down in a pool's box", "Add or take a die"},
     {"Alt and a letter", "Press the button or go to the box whose letter is underlined"}};
@@ -124,12 +125,12 @@ constexpr Words kFiles[] = {
      "One file for each combatant's note, saved and loaded on the Notes page. A fight keeps only "
      "the file's name: save the note first."},
     {"ngtracker.txt",
-     "The log, beside the program: your notes, reloads, grenades and rockets of every evening. "
+     "The log, beside the program (once installed, in ~/.local/share/ngtracker): your notes, "
+     "reloads, grenades and rockets of every evening. "
      "{mnuViewLog} shows it; {mnuViewGM} adds to it."},
-    {"info.dat",
-     "The reference that {mnuViewReference} looks up, beside the program or in DatDir."},
+    {"info.dat", "The reference that {mnuViewReference} looks up, where the log is or in DatDir."},
     {"tracker.ini",
-     "The settings, beside the program. A path given when the program is started names another "
+     "The settings, where the log is. A path given when the program is started names another "
      "file to read instead."}};
 
 /// A text of a menu without its mnemonic and the dots of one that asks further.

@@ -1,7 +1,6 @@
 #include "app/info_form.h"
 
 #include "app/main_form.h"
-#include "base/number_text.h"
 #include "base/text.h"
 #include "import/item_figures.h"
 
@@ -45,7 +44,7 @@ std::string Row(std::string_view name, std::string_view value) {
 void InfoForm::Mark(SheetList list, int index) {
   marked_[static_cast<std::size_t>(list)] = index;
   list_ = list;
-  if (open) Fill();
+  Refresh();
 }
 
 void InfoForm::Form_Load() {

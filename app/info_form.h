@@ -28,6 +28,10 @@ class InfoForm {
   /// Somebody else is displayed, none of whose lines is marked. An open window goes on showing what
   /// it shows, for comparison.
   void MarkNothing() { marked_.fill(-1); }
+  /// The marked line has changed; the open window shows it anew.
+  void Refresh() {
+    if (open) Fill();
+  }
   /// The marked line of a list, -1 for none.
   int Marked(SheetList list) const { return marked_[static_cast<std::size_t>(list)]; }
 

@@ -1,5 +1,7 @@
 #include "app/keys.h"
 
+#include <algorithm>
+
 namespace ng {
 namespace {
 
@@ -39,11 +41,8 @@ std::span<const ButtonKey> MainKeys() { return kMainKeys; }
 
 std::span<const ButtonKey> RollerKeys() { return kRollerKeys; }
 
-const char* RollerKey(std::string_view entry) {
-  for (const ButtonKey& row : kRollerKeys) {
-    if (row.button == entry) return row.key;
-  }
-  return "";
+const ButtonKey& RollerKey(std::string_view entry) {
+  return *std::ranges::find(kRollerKeys, entry, &ButtonKey::button);
 }
 
 }  // namespace ng

@@ -22,7 +22,7 @@ std::span<const ButtonKey> MainKeys();
 /// The entries of the dice roller's menu.
 std::span<const ButtonKey> RollerKeys();
 
-/// The key of an entry of the dice roller's menu; empty when it has none.
-const char* RollerKey(std::string_view entry);
+/// The row of an entry of the dice roller's menu, which must be one of them.
+const ButtonKey& RollerKey(std::string_view entry);
 
 }  // namespace ng

@@ -90,7 +90,14 @@ void MainForm::Form_Unload() {
   }
 }
 
-void MainForm::mnuFileNew() { actions.RemoveAll(); }
+void MainForm::mnuFileNew() {
+  actions.RemoveAll();
+  const Integer left = fight.CountPlayers();
+  if (left > 0) {
+    statusMessage = "Beyond a gap in the table " + PlainText(left) +
+                    (left == 1 ? " combatant remains" : " combatants remain");
+  }
+}
 
 void MainForm::mnuFileOpen() {
   loader_.Form_Load();
@@ -147,9 +154,19 @@ void MainForm::mnuPInactive() {
   ShowHeader();
 }
 
-void MainForm::mnuPGrenade() { actions.Grenade(); }
+void MainForm::mnuPGrenade() {
+  const Integer before = fight.grenadeCnt;
+  actions.Grenade();
+  if (fight.grenadeCnt != before) statusMessage = header.lblName2 + ": a grenade is in the air";
+}
 
-void MainForm::mnuPRocket() { actions.Rocket(); }
+void MainForm::mnuPRocket() {
+  const std::size_t before = fight.GlobalEvents.size();
+  actions.Rocket();
+  if (fight.GlobalEvents.size() != before) {
+    statusMessage = header.lblName2 + ": a rocket is in the air";
+  }
+}
 
 void MainForm::mnuPMult() {
   SyncSheet();
@@ -161,7 +178,11 @@ void MainForm::mnuPMult() {
                                       PlainText(asked) + " copies made";
 }
 
-void MainForm::mnuPRemove() { actions.Remove(); }
+void MainForm::mnuPRemove() {
+  const std::string name = header.lblName2;
+  actions.Remove();
+  if (!name.empty()) statusMessage = name + " removed";
+}
 
 void MainForm::mnuViewOptions() {
   options_.Form_Load();

@@ -146,6 +146,7 @@ void MainForm::ToggleCarried(std::vector<CarriedLine> CharacterEntry::*list, int
   line.carried = !line.carried || IsBoneLace(line);
   sheet.ShowCharacter(entry);
   RecalcArmor();
+  itemInfo.Refresh();
 }
 
 void MainForm::txtNotes_Change(const std::string& text) {

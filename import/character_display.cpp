@@ -79,9 +79,9 @@ void SheetPanel::ShowCharacter(const CharacterEntry* entry) {
   lstGear = sheet.gear;
   lstWeapon = sheet.weapons;
   const LoadWeights weights = WeightsOf(sheet);
-  grpWeapon = Titled("Weapons", weights.weapons, "carried");
-  grpArmor = Titled("Armour", weights.armour, "worn");
-  grpGear = Titled("Gear", weights.gear, "carried");
+  grpWeapon = Titled("&Weapons", weights.weapons, "carried");
+  grpArmor = Titled("Armou&r", weights.armour, "worn");
+  grpGear = Titled("&Gear", weights.gear, "carried");
   lstActive.clear();
   lstOther.clear();
   for (const std::string& skill : sheet.skills) {

@@ -46,7 +46,8 @@ struct SheetPanel {
   std::string lblWeight2;
   std::string lblLWght;
 
-  /// The titles of the three lists with marks, with the weight that is worn or carried of each.
+  /// The titles of the three lists with marks, the mnemonic marked by "&", with the weight that is
+  /// worn or carried of each.
   std::string grpWeapon;
   std::string grpArmor;
   std::string grpGear;

@@ -1,6 +1,7 @@
 #include "roller/dice_roller.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <utility>
 
@@ -67,6 +68,12 @@ void DiceRoller::Form_Load(Files& files, const std::string& datDir) {
 
 void DiceRoller::tabTest_Click(TestPage page) {
   tabTest = page;
+  testOwner_ = fight_.CurrentPCpointer;
+  // The dice of an earlier test are not this one's.
+  txtResult.clear();
+  txtSuccess.clear();
+  txtHighNumber.clear();
+  lblRuleOfOne = false;
   SelectRange();
   brought_ = Brought();
   board.Fill(brought_);
@@ -209,6 +216,12 @@ std::string DiceRoller::BaseNumber() const {
   return tabTest == TestPage::Melee ? txtMeleeNumber : kPlainBase;
 }
 
+std::string DiceRoller::BaseCaption() const {
+  constexpr std::array<const char*, 4> kRanges = {"short", "medium", "long", "extreme"};
+  if (tabTest != TestPage::Ranged || bracket_ < 0) return "Base number";
+  return std::string("Base number (") + kRanges[static_cast<std::size_t>(bracket_)] + " range)";
+}
+
 std::string DiceRoller::OddsLine() const {
   try {
     return OddsSentence(LenientInteger(txtNumDice), LeadingNumber(txtTargetNum));
@@ -230,10 +243,13 @@ void DiceRoller::SelectRange() {
   const PlayerRecord& combatant = Displayed();
   // The bracket of somebody else's shot must not linger.
   txtRangeTargetNumber = kPlainBase;
+  bracket_ = -1;
   if (combatant.SkillWeapType == 1 && !wieldsInMelee_(Weapon::Primary)) {
-    txtRangeTargetNumber = RangeBase(combatant.RangeSelPrim);
+    bracket_ = combatant.RangeSelPrim.Value();
+    txtRangeTargetNumber = RangeBase(bracket_);
   } else if (combatant.SkillWeapType == 2 && !wieldsInMelee_(Weapon::Secondary)) {
-    txtRangeTargetNumber = RangeBase(combatant.RangeSelSec);
+    bracket_ = combatant.RangeSelSec.Value();
+    txtRangeTargetNumber = RangeBase(bracket_);
   } else {
     txtMeleeNumber = kPlainBase;
   }

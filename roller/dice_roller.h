@@ -120,7 +120,8 @@ class DiceRoller {
   /// are in the test; then it stays with its owner, whoever is looked at, so that a roll never
   /// spends somebody else's dice, and goes up and down with the owner's pool.
   void FollowPool();
-  /// Whose dice the test takes.
+  /// Who the test was started for, 0 before the first, and whose pool it takes its dice from.
+  Slot TestOwner() const { return testOwner_; }
   Slot PoolOwner() const { return poolOwner_; }
 
   /// The main window's choice of a range bracket; the base number of the weapon that attacked last
@@ -130,6 +131,8 @@ class DiceRoller {
   // What the window shows beside the boxes.
   /// The base number of the open page.
   std::string BaseNumber() const;
+  /// What it is the base of: "Base number (medium range)".
+  std::string BaseCaption() const;
   /// The odds of this roll in plain words; empty while a box holds a number that cannot be rolled.
   std::string OddsLine() const;
   /// The totals of the last roll's first 100 dice at the indices 1 to 100, 0 where none was rolled.
@@ -156,6 +159,9 @@ class DiceRoller {
   /// What the boxes were last filled with.
   CombatantModifiers brought_;
   FixedTable<Integer, 100> dieTotals_;
+  Slot testOwner_;
+  /// The range bracket of the shot, 0 short to 3 extreme; -1 when the test is no shot.
+  int bracket_ = -1;
   /// Whose combat pool `txtCPx` was filled from, and how large it was.
   Slot poolOwner_;
   Integer poolTaken_;

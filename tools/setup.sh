@@ -1,7 +1,7 @@
 # Sourced by ./run and ./test, with `home` set to the project's folder.
 
 build_packages=(g++ cmake ninja-build qt6-base-dev)
-display_packages=(fonts-noto-core)
+display_packages=(fonts-noto-core qt6-wayland)
 test_packages=(libgtest-dev xvfb openbox)
 
 # Installs those of the packages that are not there yet.

@@ -11,7 +11,6 @@
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QProgressDialog>
-#include <QPushButton>
 #include <cstdio>
 #include <cstdlib>
 #include <utility>

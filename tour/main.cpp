@@ -3,13 +3,12 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <clocale>
 #include <cstdio>
 
 #include "tour/guide.h"
 #include "tour/sample_fight.h"
 #include "tour/sample_program.h"
-#include "ui/icons.h"
+#include "ui/program.h"
 #include "ui/splash.h"
 #include "ui/theme.h"
 
@@ -85,10 +84,7 @@ int main(int argc, char* argv[]) {
   qInstallMessageHandler(ng::Hear);
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   QApplication application(argc, argv);
-  std::setlocale(LC_NUMERIC, "C");
-  QApplication::setQuitOnLastWindowClosed(false);
-  QApplication::setApplicationName(QStringLiteral("NGtracker"));
-  QApplication::setWindowIcon(ng::ApplicationIcon());
+  ng::PrepareApplication(application);
   // A text cursor that comes and goes would make every picture another one.
   QApplication::setCursorFlashTime(0);
   return ng::Tour(wishes);

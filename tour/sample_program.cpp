@@ -18,8 +18,9 @@ SampleProgram::SampleProgram(const Theme& theme)
 
 void SampleProgram::Run(Start start) {
   std::string settings = "[NGtracker]\r\n";
-  if (start == Start::Later) settings += "NG3Dir=" NG_SAMPLE "/characters\r\n";
-  settings += "DatDir=" NG_SAMPLE "/DATA\r\n";
+  const std::string sample = PathText(QStringLiteral(NG_SAMPLE));
+  if (start == Start::Later) settings += "NG3Dir=" + sample + "/characters\r\n";
+  settings += "DatDir=" + sample + "/DATA\r\n";
   files_.Replace(PathText(OwnFile("tracker.ini")), settings);
   Main(session, *this);
 }

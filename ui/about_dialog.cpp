@@ -17,11 +17,13 @@ constexpr int kEdge = 16;
 
 QVBoxLayout* MakeBuiltOn(QWidget* parent) {
   const QString texts[] = {
-      AboutDialog::tr("Built with Qt %1, running on Qt %2, under the GNU Lesser General Public "
-                      "License version 3.")
+      AboutDialog::tr("The program itself has been given no licence: ask its developers before "
+                      "you pass it on."),
+      AboutDialog::tr("Built with Qt %1, running on Qt %2. Qt is used under the GNU Lesser General "
+                      "Public License version 3.")
           .arg(QStringLiteral(QT_VERSION_STR), QString::fromLatin1(qVersion())),
       AboutDialog::tr(
-          "The text is set in the system's Noto Sans, where there is one, under the SIL "
+          "The text is set in the system's Noto Sans, where there is one, which is under the SIL "
           "Open Font License."),
       AboutDialog::tr("The program draws its icons itself.")};
   QVBoxLayout* column = MakeColumn();

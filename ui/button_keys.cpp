@@ -1,21 +1,73 @@
 #include "ui/button_keys.h"
 
 #include <QAbstractButton>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QMainWindow>
+#include <QPlainTextEdit>
 #include <QShortcut>
+#include <string_view>
 
+#include "app/commands.h"
 #include "app/keys.h"
 
 namespace ng {
+namespace {
+
+QKeySequence Sequence(const char* key) {
+  return {QString::fromLatin1(key), QKeySequence::PortableText};
+}
+
+/// "F2", "Shift+F2"; no "Ctrl+F".
+bool IsFunctionKey(std::string_view key) {
+  if (key.starts_with("Shift+")) key.remove_prefix(6);
+  return key.size() > 1 && key[0] == 'F';
+}
+
+class EditingKeys : public QObject {
+ public:
+  using QObject::QObject;
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::ShortcutOverride) return false;
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    for (const QKeySequence::StandardKey own :
+         {QKeySequence::DeleteEndOfWord, QKeySequence::DeleteStartOfWord,
+          QKeySequence::DeleteEndOfLine, QKeySequence::DeleteCompleteLine}) {
+      if (key.matches(own)) event->accept();
+    }
+    return event->isAccepted();
+  }
+};
+
+}  // namespace
 
 void AddButtonKeys(QMainWindow& window) {
   for (const ButtonKey& entry : MainKeys()) {
     auto* button = window.findChild<QAbstractButton*>(QString::fromLatin1(entry.button));
-    auto* shortcut = new QShortcut(
-        QKeySequence(QString::fromLatin1(entry.key), QKeySequence::PortableText), &window);
+    auto* shortcut = new QShortcut(Sequence(entry.key), &window);
     // A click and not a press, so that a button on a page that is not open answers too.
     QObject::connect(shortcut, &QShortcut::activated, button, [button] { button->click(); });
   }
+}
+
+void AddFightKeys(QWidget& window, const Perform& perform) {
+  const auto add = [&](const char* key, const Act& act) {
+    auto* shortcut = new QShortcut(Sequence(key), &window);
+    QObject::connect(shortcut, &QShortcut::activated, &window, [perform, act] { perform(act); });
+  };
+  for (const char* step : {"mnuTPrev", "mnuTNext"}) add(FindCommand(step)->shortcut, {step});
+  for (const ButtonKey& entry : MainKeys()) {
+    if (!IsFunctionKey(entry.key)) continue;
+    const WidgetName button = ParseWidgetName(QString::fromLatin1(entry.button));
+    add(entry.key, {button.control, button.index});
+  }
+}
+
+void KeepEditingKeys(QWidget& window) {
+  auto* keys = new EditingKeys(&window);
+  for (QWidget* edit : window.findChildren<QLineEdit*>()) edit->installEventFilter(keys);
+  for (QWidget* edit : window.findChildren<QPlainTextEdit*>()) edit->installEventFilter(keys);
 }
 
 }  // namespace ng

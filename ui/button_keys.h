@@ -1,11 +1,22 @@
 #pragma once
 
+#include "ui/acts.h"
+
 class QMainWindow;
+class QWidget;
 
 namespace ng {
 
 /// Gives the buttons that are pressed all through a fight their keys: wounds, shots, reloading, the
 /// combat pool. The keys work whatever page is open.
 void AddButtonKeys(QMainWindow& window);
+
+/// Has the function keys of the fight answer in a window beside the main one, too: the steps of the
+/// turn, the shots and the reloading.
+void AddFightKeys(QWidget& window, const Perform& perform);
+
+/// In the boxes and notes of a window the keys that delete words and lines stay theirs, though a
+/// command has the same key elsewhere.
+void KeepEditingKeys(QWidget& window);
 
 }  // namespace ng

@@ -6,8 +6,6 @@
 
 #include "ui/acts.h"
 
-class QMimeData;
-
 namespace ng {
 
 /// The files as the text of the act that opens them: absolute, as the program writes paths, joined

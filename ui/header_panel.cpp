@@ -102,11 +102,11 @@ QBoxLayout* HeaderPanelView::BuildArmour() {
     int width;
     QString tip;
   };
-  const Slot slots_[] = {{"lblBAL", 66, tr("Ballistic armour")},
-                         {"lblIMP", 62, tr("Impact armour")},
-                         {"lblQCKmod", 76, tr("Quickness lost to heavy armour")},
-                         {"lblCPmod", 92, tr("Combat pool lost to heavy armour")},
-                         {"lblLWght", 96, tr("Weight carried")}};
+  const Slot slots_[] = {{"lblBAL", 66, tr("BAL: ballistic armour")},
+                         {"lblIMP", 62, tr("IMP: impact armour")},
+                         {"lblQCKmod", 76, tr("QCK: quickness lost to heavy armour")},
+                         {"lblCPmod", 92, tr("CPmod: combat pool lost to heavy armour")},
+                         {"lblLWght", 96, tr("Wgt: weight worn and carried")}};
   QHBoxLayout* row = MakeRow(5);
   for (const Slot& slot : slots_) {
     auto* label = new QLabel(this);

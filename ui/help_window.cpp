@@ -1,13 +1,11 @@
 #include "ui/help_window.h"
 
 #include <QBoxLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QTextBrowser>
 #include <QTreeWidget>
-#include <initializer_list>
 #include <span>
 
 #include "ui/layout_kit.h"
@@ -175,11 +173,6 @@ void HelpWindow::Paint(const MainForm& form) {
   }
   SetOpen(help.open);
   if (opens) topics_->setFocus();
-}
-
-void HelpWindow::BringToFront() {
-  raise();
-  activateWindow();
 }
 
 }  // namespace ng

@@ -13,8 +13,6 @@ class HelpWindow : public SideWindow {
  public:
   HelpWindow(const Perform& perform, QWidget* parent);
   void Paint(const MainForm& form);
-  /// Shows the window above the one that asked for it.
-  void BringToFront();
 
  private:
   QLineEdit* filter_;

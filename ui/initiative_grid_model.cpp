@@ -29,6 +29,18 @@ QFont RowFont(bool shown) {
   return shown ? bold : plain;
 }
 
+QString TipOf(int column) {
+  switch (column) {
+    case InitiativeGrid::kNameColumn:
+      return InitiativeGridModel::tr("In the order of the net initiative");
+    case InitiativeGrid::kRollColumn:
+      return InitiativeGridModel::tr("Initiative rolled; the wound modifier comes off it (Net)");
+    default:
+      return InitiativeGridModel::tr(
+          "Condition: stun first, then physical. L light, M moderate, S serious, D deadly, 0 none");
+  }
+}
+
 }  // namespace
 
 int InitiativeGridModel::rowCount(const QModelIndex& parent) const {
@@ -65,6 +77,7 @@ QVariant InitiativeGridModel::headerData(int section, Qt::Orientation orientatio
   if (role == Qt::DisplayRole) {
     return QString::fromLatin1(InitiativeGrid::kHeaders[static_cast<std::size_t>(section)]);
   }
+  if (role == Qt::ToolTipRole) return TipOf(section);
   return role == Qt::TextAlignmentRole ? AlignmentOf(section) : QVariant();
 }
 

@@ -4,6 +4,8 @@
 #include <QLabel>
 #include <QPainter>
 
+#include "ui/theme.h"
+
 namespace ng {
 namespace {
 
@@ -35,13 +37,15 @@ class Swatch : public QWidget {
 Legend::Legend(QWidget* parent) : QWidget(parent) {
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(4);
+  row->setSpacing(3);
   const auto add = [&](const QSize& size, const QColor& colour, qreal frame, const QString& text) {
     row->addWidget(new Swatch(size, colour, frame, this));
     auto* label = new QLabel(text, this);
     label->setProperty("tone", "muted");
+    // The narrowest pane still shows every word.
+    label->setFont(InterfaceFont(9));
     row->addWidget(label);
-    row->addSpacing(4);
+    row->addSpacing(2);
   };
   add({12, 12}, QColor(0, 255, 0), 1, tr("turn"));
   add({12, 12}, QColor(255, 255, 0), 1, tr("delay"));

@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <iterator>
 #include <string_view>
+#include <utility>
 
 #include "app/controls.h"
 #include "ui/bind.h"
@@ -51,10 +52,10 @@ void ShowText(QLabel& label, const QString& text) {
   if (label.text() != text) label.setText(text);
 }
 
-/// Whether the act asks for the dice roller, which then comes to the front though it is open.
-bool AsksForRoller(const Act& act) {
-  constexpr std::string_view kControls[] = {"ShowRoller", "cmdShots1",  "cmdShots3",
-                                            "cmdShotsFA", "cmdUnarmed", "cmdBody"};
+/// Whether the act starts a test, for which the dice roller comes into sight though it is open.
+bool StartsTest(const Act& act) {
+  constexpr std::string_view kControls[] = {"cmdShots1", "cmdShots3", "cmdShotsFA", "cmdUnarmed",
+                                            "cmdBody"};
   return std::ranges::find(kControls, act.control) != std::end(kControls);
 }
 
@@ -85,6 +86,7 @@ MainWindow::MainWindow(Session& session) : session_(session) {
           [this] { grid_->setFocus(Qt::ShortcutFocusReason); });
   FindLists();
   AddButtonKeys(*this);
+  KeepEditingKeys(*this);
   new FileDrop(*this, perform);
   binder_ = std::make_unique<Binder>(*this, perform);
   PaintAll();
@@ -156,11 +158,22 @@ void MainWindow::Place() {
 void MainWindow::Do(const Act& act) {
   session_.Do(act);
   PaintAll();
-  // Open already, it comes to the front.
-  if (act.control == "mnuViewGM") gameMaster_->raise();
-  if (act.control == "mnuHelpContents") help_->BringToFront();
-  if (ngdr_ != nullptr && ngdr_->isVisible() && AsksForRoller(act)) ngdr_->raise();
+  BringToFront(act);
   if (session_.main.closing) close();
+}
+
+/// A window that is asked for comes to the front, though it is open already.
+void MainWindow::BringToFront(const Act& act) {
+  const std::pair<std::string_view, SideWindow*> windows[] = {
+      {"ShowRoller", ngdr_},        {"mnuViewGM", gameMaster_},       {"mnuViewLog", log_},
+      {"frmGM.cmdViewLog", log_},   {"mnuViewReference", reference_}, {"mnuViewInfo", itemInfo_},
+      {"cmdInfoWeapon", itemInfo_}, {"cmdInfoArmor", itemInfo_},      {"cmdInfoGear", itemInfo_},
+      {"mnuHelpContents", help_}};
+  for (const auto& [control, window] : windows) {
+    if (act.control == control && window != nullptr && window->isVisible()) window->BringToFront();
+  }
+  // The keys that roll the test mean something else in the main window.
+  if (ngdr_ != nullptr && ngdr_->isVisible() && StartsTest(act)) ngdr_->BringToFront();
 }
 
 void MainWindow::PaintAll() {
@@ -182,7 +195,7 @@ void MainWindow::PaintAll() {
 template <typename Window>
 void MainWindow::PaintSideWindow(Window*& window, bool wanted) {
   if (wanted && window == nullptr) window = new Window([this](const Act& act) { Do(act); }, this);
-  if (window != nullptr) window->Paint(session_.main);
+  if (window != nullptr && (wanted || window->isVisible())) window->Paint(session_.main);
 }
 
 void MainWindow::PaintSideWindows() {

@@ -43,6 +43,7 @@ class MainWindow : public QMainWindow {
   void BuildRightPane(QWidget* parent);
   void BuildStatusBar();
   void Place();
+  void BringToFront(const Act& act);
   void FindLists();
   void PaintMarks();
   void PaintColours();

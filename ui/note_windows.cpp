@@ -12,6 +12,7 @@
 
 #include "app/commands.h"
 #include "ui/layout_kit.h"
+#include "ui/list_paint.h"
 #include "ui/text.h"
 
 namespace ng {
@@ -19,20 +20,17 @@ namespace {
 
 constexpr int kEdge = 12;
 
-/// Fills a list where it shows something else; returns whether it did.
-bool ShowLines(QTreeWidget& list, const std::vector<std::string>& lines) {
-  const int count = static_cast<int>(lines.size());
-  bool same = list.topLevelItemCount() == count;
-  for (int i = 0; same && i < count; ++i) {
-    same = list.topLevelItem(i)->text(0) == ToQString(lines[static_cast<std::size_t>(i)]);
-  }
-  if (same) return false;
+/// Fills a list that goes on growing and shows its end, if it shows something else.
+void FollowLines(QTreeWidget& list, std::vector<std::string>& shown,
+                 const std::vector<std::string>& lines) {
+  if (shown == lines) return;
+  shown = lines;
   const QSignalBlocker quiet(list);
-  list.clear();
-  for (const std::string& line : lines) new QTreeWidgetItem(&list, {ToQString(line)});
+  ShowLines(list, lines);
   // The newest line is the one to begin with.
-  list.setCurrentItem(list.topLevelItem(count - 1), 0, QItemSelectionModel::NoUpdate);
-  return true;
+  const int last = list.topLevelItemCount() - 1;
+  list.setCurrentItem(list.topLevelItem(last), 0, QItemSelectionModel::NoUpdate);
+  list.scrollToBottom();
 }
 
 QVBoxLayout* MakeColumn(QWidget* window) {
@@ -59,6 +57,11 @@ SideWindow::SideWindow(const QString& name, const QString& title, const char* cl
 }
 
 void SideWindow::reject() { Do({closeAct_}); }
+
+void SideWindow::BringToFront() {
+  raise();
+  activateWindow();
+}
 
 void SideWindow::SetOpen(bool open) {
   if (open == isVisible()) return;
@@ -112,8 +115,8 @@ GmWindow::GmWindow(const Perform& perform, QWidget* parent)
 }
 
 void GmWindow::Paint(const MainForm& form) {
-  if (ShowLines(*lines_, form.gmLog.lstGMinfo())) lines_->scrollToBottom();
   const bool opens = form.frmGMOpen && !isVisible();
+  FollowLines(*lines_, shown_, form.gmLog.lstGMinfo());
   SetOpen(form.frmGMOpen);
   if (opens) lines_->scrollToBottom();
 }
@@ -138,7 +141,7 @@ LogWindow::LogWindow(const Perform& perform, QWidget* parent)
 }
 
 void LogWindow::Paint(const MainForm& form) {
-  if (ShowLines(*lines_, form.logViewer.lstDisplay)) lines_->scrollToBottom();
+  FollowLines(*lines_, shown_, form.logViewer.lstDisplay);
   const auto count = form.logViewer.lstDisplay.size();
   count_->setText(count == 1 ? tr("1 line") : tr("%1 lines").arg(count));
   SetOpen(form.logViewer.open);
@@ -180,9 +183,12 @@ void ReferenceWindow::Paint(const MainForm& form) {
   const ReferenceForm& reference = form.reference;
   const QString filter = ToQString(reference.txtFilter);
   if (filter_->text() != filter) filter_->setText(filter);
-  ShowLines(*names_, reference.lstNames);
   {
     const QSignalBlocker quiet(*names_);
+    if (shown_ != reference.lstNames) {
+      shown_ = reference.lstNames;
+      ShowLines(*names_, shown_);
+    }
     names_->setCurrentItem(names_->topLevelItem(reference.lstNamesIndex));
   }
   ShowEntry(*entry_, reference.txtEntry);

@@ -22,6 +22,8 @@ class SideWindow : public QDialog {
              QWidget* parent);
 
   void reject() override;
+  /// Shows the window above the one that asked for it.
+  void BringToFront();
 
  protected:
   void Do(const Act& act) { perform_(act); }
@@ -47,6 +49,7 @@ class GmWindow : public SideWindow {
 
  private:
   QTreeWidget* lines_;
+  std::vector<std::string> shown_;
 };
 
 /// What the log file holds.
@@ -59,6 +62,7 @@ class LogWindow : public SideWindow {
 
  private:
   QTreeWidget* lines_;
+  std::vector<std::string> shown_;
   QLabel* count_;
 };
 
@@ -73,6 +77,7 @@ class ReferenceWindow : public SideWindow {
  private:
   QLineEdit* filter_;
   QTreeWidget* names_;
+  std::vector<std::string> shown_;
   QPlainTextEdit* entry_;
 };
 

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QGroupBox>
 #include <QLabel>
@@ -105,7 +106,9 @@ OptionsDialog::Group OptionsDialog::AddGroup(QBoxLayout& row, const QString& tit
   connect(picker, &DirectoryPicker::DirectoryChosen, this,
           [this, control](const QString& directory) { Do(control, PathText(directory)); });
   connect(browse, &QPushButton::clicked, this, [this, control, title, path] {
-    const QString directory = QFileDialog::getExistingDirectory(this, title, path->text());
+    const QString shown = path->text();
+    const QString from = QFileInfo(shown).isDir() ? shown : QDir::homePath();
+    const QString directory = QFileDialog::getExistingDirectory(this, title, from);
     if (!directory.isEmpty()) Do(control, PathText(directory));
   });
   return {picker, path};

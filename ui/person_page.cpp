@@ -24,6 +24,9 @@ constexpr std::array<const char*, kAttributeCount> kAttributeTips = {
 constexpr std::array<const char*, 7> kPools = {"Combat", "Control", "Hacking", "Spell",
                                                "Task",   "Astral",  "Karma"};
 
+/// The tip of a list, and how its lines are looked into.
+QString WithInfo(const QString& tip) { return TipWithKey(tip, "Enter: all about the marked line"); }
+
 /// A caption and the value named `name` beside it, at a place of the grid.
 void AddFigure(QGridLayout* grid, int row, int column, const QString& caption, const QString& tip,
                const QString& name) {
@@ -90,8 +93,9 @@ QGroupBox* MakeRace(QWidget* parent) {
   title->addWidget(race, 1);
   title->addWidget(run);
   rows->addLayout(title);
-  rows->addWidget(MakePlainList({"lstRace", "What the race brings", "What the race brings"}, group),
-                  1);
+  rows->addWidget(
+      MakePlainList({"lstRace", "What the race brings", WithInfo("What the race brings")}, group),
+      1);
   ElidedLabel* attacks = MakeElided("lblAttacks", group);
   attacks->setToolTip("Natural attacks");
   rows->addWidget(attacks);
@@ -112,7 +116,8 @@ QGroupBox* MakeMagic(QWidget* parent) {
   type->setToolTip("Kind of magician");
   rows->addWidget(type);
   rows->addWidget(
-      MakePlainList({"lstMagic", "Spells, powers and geasa", "Spells, powers and geasa"}, group),
+      MakePlainList({"lstMagic", "Spells, powers and geasa", WithInfo("Spells, powers and geasa")},
+                    group),
       1);
   return group;
 }
@@ -129,19 +134,21 @@ PersonPage::PersonPage(QWidget* parent) : FittedPage(parent) {
   figures->addWidget(MakeRace(first), 1);
   QVBoxLayout* abilities = MakeColumn();
   abilities->addWidget(
-      MakeListGroup("Augments", {"lstAugments", "Cyberware and bioware", "Cyberware and bioware"},
+      MakeListGroup("Augments",
+                    {"lstAugments", "Cyberware and bioware", WithInfo("Cyberware and bioware")},
                     this),
       3);
   abilities->addWidget(MakeMagic(this), 2);
   QVBoxLayout* knowledge = MakeColumn();
   knowledge->addWidget(
-      MakeListGroup("Edges and flaws", {"lstEdges", "Edges and flaws", "Edges and flaws"}, this),
-      1);
-  knowledge->addWidget(
-      MakeListGroup("Languages and knowledge",
-                    {"lstOther", "Languages and knowledge", "Languages and knowledge skills"},
+      MakeListGroup("Edges and flaws", {"lstEdges", "Edges and flaws", WithInfo("Edges and flaws")},
                     this),
       1);
+  knowledge->addWidget(MakeListGroup("Languages and knowledge",
+                                     {"lstOther", "Languages and knowledge",
+                                      WithInfo("Languages and knowledge skills")},
+                                     this),
+                       1);
 
   auto* columns = new QHBoxLayout(this);
   columns->setContentsMargins(0, kPageMargin, 0, 0);

@@ -88,14 +88,18 @@ int Run(QApplication& application, std::function<void(QWidget&)> loaded) {
 
 }  // namespace
 
-int RunProgram(int argc, char** argv, std::function<void(QWidget&)> loaded) {
-  QApplication application(argc, argv);
+void PrepareApplication(QApplication& application) {
   // The toolkit takes the desktop's locale over; numbers are written with a point wherever we are.
   std::setlocale(LC_NUMERIC, "C");
   // Splash and dialogs come and go before the main window is there; its closing ends the program.
   QApplication::setQuitOnLastWindowClosed(false);
-  QApplication::setApplicationName(QStringLiteral("NGtracker"));
+  application.setApplicationName(QStringLiteral("NGtracker"));
   QApplication::setWindowIcon(ApplicationIcon());
+}
+
+int RunProgram(int argc, char** argv, std::function<void(QWidget&)> loaded) {
+  QApplication application(argc, argv);
+  PrepareApplication(application);
   return Run(application, std::move(loaded));
 }
 

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCloseEvent>
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QMessageBox>
@@ -50,6 +51,17 @@ std::optional<std::string> AskForFile(QWidget* parent, const FileDialog& dialog,
   if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return std::nullopt;
   return PathText(box.selectedFiles().constFirst());
 }
+
+/// The box of a piece of work. It stays until the work is done: while it stands nothing else can be
+/// begun, and a command runs to its end before the next.
+class WorkBox : public QProgressDialog {
+ public:
+  using QProgressDialog::QProgressDialog;
+  void reject() override {}
+
+ protected:
+  void closeEvent(QCloseEvent* event) override { event->ignore(); }
+};
 
 /// A box with the application's title; returns the button that closed it.
 QMessageBox::StandardButton Ask(QWidget* parent, const QString& text,
@@ -145,11 +157,10 @@ void QtPrompts::ShowProgress(std::string_view what, int done, int total) {
   if (!workTime_.isValid()) workTime_.start();
   if (progress_ == nullptr) {
     if (workTime_.elapsed() < kPatience) return;
-    progress_ = std::make_unique<QProgressDialog>(ToQString(what), QString(), 0, total, Parent());
+    progress_ = std::make_unique<WorkBox>(ToQString(what), QString(), 0, total, Parent());
     progress_->setWindowTitle(Title());
     progress_->setMinimumWidth(kBoxWidth);
     progress_->setMinimumDuration(0);
-    // Every window is closed to the user meanwhile, since a command runs to its end.
     progress_->setWindowModality(Qt::ApplicationModal);
   }
   progress_->setValue(done);

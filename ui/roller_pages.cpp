@@ -62,7 +62,7 @@ class PageBuilder {
   }
 
   /// With an empty name the number cannot be changed.
-  void AddBase(const QString& name, const QString& words) {
+  QLabel* AddBase(const QString& name, const QString& words) {
     QLineEdit* box =
         MakeBox({name, words, QObject::tr("What the target number starts from, before modifiers")},
                 kModifierBoxWidth, page_);
@@ -77,6 +77,7 @@ class PageBuilder {
     row->addWidget(caption, 1);
     row->addWidget(box);
     rows_->addLayout(row);
+    return caption;
   }
 
   QComboBox* AddList(const QString& words, const Naming& naming, int box) {
@@ -173,7 +174,8 @@ void AddVisibility(PageBuilder& builder, const QString& name, int box) {
 }
 
 void FillRanged(PageBuilder& builder) {
-  builder.AddBase(QStringLiteral("txtRangeTargetNumber"), QObject::tr("Base number of the range"));
+  builder.AddBase(QStringLiteral("txtRangeTargetNumber"), QObject::tr("Base number of the range"))
+      ->setObjectName(QStringLiteral("lblBase"));
   AddBroughtAlong(builder, TestPage::Ranged);
   builder.AddLine();
   AddVisibility(builder, QStringLiteral("cmbVisability"), kVisibilityBox);

@@ -15,6 +15,7 @@
 
 #include "app/keys.h"
 #include "ui/bind.h"
+#include "ui/button_keys.h"
 #include "ui/elided_label.h"
 #include "ui/layout_kit.h"
 #include "ui/roller_groups.h"
@@ -54,6 +55,7 @@ RollerWindow::RollerWindow(const Perform& perform, QWidget* parent)
   column->addWidget(tabs);
   column->addLayout(halves, 1);
   BuildMenu(perform);
+  AddFightKeys(*this, perform);
   connect(tabs, &QTabBar::currentChanged, modifiers.pages, &QStackedWidget::setCurrentIndex);
   connect(tabs, &QTabBar::currentChanged, this, &RollerWindow::ShowPage);
   ShowPage(tabs->currentIndex());
@@ -119,11 +121,13 @@ QTabBar* RollerWindow::MakeTabs() {
 void RollerWindow::BuildMenu(const Perform& perform) {
   auto* bar = new QMenuBar(this);
   QMenu* menu = bar->addMenu(tr("&Shortcuts"));
+  menu->setToolTipsVisible(true);
   const auto add = [this, menu](const char* name, const QString& text) {
     QAction* action = menu->addAction(text);
     action->setObjectName(QString::fromLatin1(name));
+    action->setToolTip(QString::fromLatin1(RollerKey(name).words));
     action->setShortcut(
-        QKeySequence(QString::fromLatin1(RollerKey(name)), QKeySequence::PortableText));
+        QKeySequence(QString::fromLatin1(RollerKey(name).key), QKeySequence::PortableText));
     return action;
   };
   connect(add("Roll", tr("&Roll")), &QAction::triggered, this,

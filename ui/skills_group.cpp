@@ -62,7 +62,7 @@ QHBoxLayout* MakeTests(QWidget* parent) {
 }  // namespace
 
 QGroupBox* MakeSkillsGroup(QWidget* parent) {
-  QGroupBox* group = MakeGroup("Skills and tests", parent);
+  QGroupBox* group = MakeGroup("S&kills and tests", parent);
   QVBoxLayout* rows = MakeGroupRows(group);
   rows->addWidget(
       MakeList({"lstActive", "Active skills", "Mark a skill, then say what it is used for"},

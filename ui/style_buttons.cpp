@@ -11,6 +11,9 @@
 namespace ng {
 namespace {
 
+/// White stays readable on it.
+QColor Darker(const QColor& accent) { return accent.darker(120); }
+
 constexpr qreal kCaptionRadius = 3;
 constexpr qreal kRollRadius = 4;
 constexpr qreal kToolRadius = 2;
@@ -52,8 +55,8 @@ void PaintRoll(QPainter& painter, const QStyleOptionButton& option, const QStyle
   const bool held = focus || Is(option, QStyle::State_MouseOver);
   const bool pressed = Is(option, QStyle::State_Sunken);
   PaintPanel(painter, option.rect,
-             {pressed ? theme.labelAccent : theme.accent, held ? theme.labelAccent : theme.accent,
-              kRollRadius, focus ? 2.0 : 1.0});
+             {pressed ? Darker(theme.accent) : theme.accent,
+              held ? theme.labelAccent : theme.accent, kRollRadius, focus ? 2.0 : 1.0});
   QStyleOptionButton label = option;
   label.palette.setColor(QPalette::ButtonText, Qt::white);
   style.drawControl(QStyle::CE_PushButtonLabel, &label, &painter);
@@ -116,7 +119,7 @@ bool PaintToolButton(QPainter& painter, const QStyleOptionToolButton& option,
   if (next) {
     const bool held = Is(option, QStyle::State_MouseOver) || Is(option, QStyle::State_Sunken);
     PaintPanel(painter, option.rect,
-               {held ? theme.labelAccent : theme.accent, theme.accent, kToolRadius});
+               {held ? Darker(theme.accent) : theme.accent, theme.accent, kToolRadius});
     label.palette.setColor(QPalette::ButtonText, Qt::white);
   } else {
     PaintPanel(painter, option.rect, {theme.base, theme.fieldEdge, kToolRadius});

@@ -1,7 +1,6 @@
 #pragma once
 
 class QPainter;
-class QStyle;
 class QStyleOption;
 class QStyleOptionButton;
 class QStyleOptionToolButton;

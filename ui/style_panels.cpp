@@ -95,7 +95,7 @@ void PaintLineEdit(QPainter& painter, const QStyleOptionFrame& option, const QWi
 GroupParts PartsOf(const QStyleOptionGroupBox& option) {
   const QRect frame = option.rect.adjusted(0, kGroupTop, 0, 0);
   const QFontMetrics& metrics = option.fontMetrics;
-  const int width = metrics.horizontalAdvance(option.text) + 2 * kTitlePadding;
+  const int width = metrics.size(Qt::TextShowMnemonic, option.text).width() + 2 * kTitlePadding;
   const QRect title(option.rect.topLeft() + QPoint(kTitleLeft, 0), QSize(width, metrics.height()));
   return {frame, frame.adjusted(1, 1, -1, -1),
           QStyle::visualRect(option.direction, option.rect, title)};

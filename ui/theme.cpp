@@ -32,6 +32,7 @@ const Theme& Theme::Light() {
                            .fieldEdge = QColor("#868d99"),
                            .accent = QColor("#1d5fae"),
                            .labelAccent = QColor("#1d5fae"),
+                           .alarmText = QColor("#b3261e"),
                            .physicalBar = QColor("#b3261e"),
                            .stunBar = QColor("#2f62b5"),
                            .nonZeroBox = QColor("#fff3c4")};
@@ -51,6 +52,7 @@ const Theme& Theme::Dark() {
                            .fieldEdge = QColor("#707783"),
                            .accent = QColor("#2f6fbf"),
                            .labelAccent = QColor("#7fb0f2"),
+                           .alarmText = QColor("#f08a82"),
                            .physicalBar = QColor("#e0574d"),
                            .stunBar = QColor("#6a9cf0"),
                            .nonZeroBox = QColor("#4a3f12")};
@@ -75,7 +77,7 @@ QPalette Theme::Palette() const {
   palette.setColor(QPalette::Highlight, accent);
   palette.setColor(QPalette::HighlightedText, Qt::white);
   palette.setColor(kAccentText, labelAccent);
-  palette.setColor(kAlarmText, physicalBar);
+  palette.setColor(kAlarmText, alarmText);
   const QColor faint = Mixed(muted, window);
   for (const QPalette::ColorRole role :
        {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {

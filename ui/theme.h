@@ -5,7 +5,6 @@
 #include <QPalette>
 
 class QApplication;
-class QWidget;
 
 namespace ng {
 
@@ -29,6 +28,7 @@ struct Theme {
   QColor fieldEdge;
   QColor accent;
   QColor labelAccent;
+  QColor alarmText;
   QColor physicalBar;
   QColor stunBar;
   QColor nonZeroBox;

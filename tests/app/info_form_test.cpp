@@ -27,8 +27,9 @@ TEST(InfoForm, ShowsEveryFigureOfTheMarkedLineAndItsEntry) {
                                       "Weight\t2.75", "Accessories\tsmartlink", "Cost\t1150",
                                       "Source\tAL.16", "Carried\tyes"}));
   EXPECT_EQ(info.txtReference.substr(0, 14), "Submachine gun");
-  program.Do("lstArmor_Check", 0);
   program.Do("lstArmor_Select", 0);
+  EXPECT_EQ(info.lstFigures.back(), "Worn\tyes");
+  program.Do("lstArmor_Check", 0);
   EXPECT_EQ(info.lstFigures.back(), "Worn\tno");
 
   struct Case {

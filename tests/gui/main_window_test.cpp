@@ -59,6 +59,7 @@ class MainWindowTest : public QObject {
   void ClosingTheWindowEndsTheProgram();
   void DroppedFilesAreOpened();
   void LongWorkShowsHowFarItIs();
+  void KeysGoWhereTheyBelong();
 };
 
 void MainWindowTest::FirstStartAsksForTheDirectories() {
@@ -320,8 +321,40 @@ void MainWindowTest::LongWorkShowsHowFarItIs() {
   QTRY_VERIFY((program_->prompts.ShowProgress("Importing characters", 1, 2), shown()));
   QCOMPARE(QApplication::activeModalWidget()->property("labelText").toString(),
            QStringLiteral("Importing characters"));
+  // It cannot be sent away, which would let another command run inside this one.
+  QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+  QVERIFY(shown());
   program_->prompts.ShowProgress("Importing characters", 2, 2);
   QVERIFY(!shown());
+}
+
+void MainWindowTest::KeysGoWhereTheyBelong() {
+  StartFight();
+  program_->Display(QStringLiteral("Vex"));
+  program_->OpenPage(3);
+  program_->Click("txtNotes");
+  QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("talks first"));
+  // In a note this deletes words and no combatant.
+  for (const Qt::Key key : {Qt::Key_Home, Qt::Key_Delete}) program_->Key(key, Qt::ControlModifier);
+  QCOMPARE(program_->Rows(), 8);
+  QCOMPARE(program_->Find<QPlainTextEdit>("txtNotes").toPlainText().trimmed(),
+           QStringLiteral("first"));
+
+  // The turn is stepped on from the dice roller; a shot from the main window goes back there.
+  program_->Key(Qt::Key_R, Qt::ControlModifier);
+  program_->window->Do({"ShowRoller"});
+  QWidget& roller = *program_->Find("cmdRoll").window();
+  QTRY_COMPARE(QApplication::activeWindow(), &roller);
+  program_->Key(Qt::Key_F8);
+  QCOMPARE(program_->Text("lblPhase"), QStringLiteral("NEW-Phase: 1"));
+  program_->window->Do({"lstWeapon_Select", 1});
+  program_->window->Do({"cmdSetPrim"});
+  program_->window->activateWindow();
+  QTRY_COMPARE(QApplication::activeWindow(), program_->window.get());
+  program_->Key(Qt::Key_F2);
+  QTRY_COMPARE(QApplication::activeWindow(), &roller);
+  program_->Key(Qt::Key_F2);
+  QCOMPARE(program_->Text("txtTBTT_0"), QStringLiteral("2"));
 }
 
 }  // namespace ng

@@ -1,6 +1,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -142,6 +143,9 @@ QStringList WindowRulesTest::MnemonicsInSight() const {
   for (int page = 0; page < bar.count(); ++page) add(bar.tabText(page));
   for (const auto* button : program_->window->findChildren<QAbstractButton*>()) {
     if (button->isVisible()) add(button->text());
+  }
+  for (const auto* group : program_->window->findChildren<QGroupBox*>()) {
+    if (group->isVisible()) add(group->title());
   }
   for (const auto* label : program_->window->findChildren<QLabel*>()) {
     if (label->isVisible() && label->buddy() != nullptr) add(label->text());
