@@ -26,7 +26,10 @@ bool IsFunctionKey(std::string_view key) {
 
 class EditingKeys : public QObject {
  public:
-  using QObject::QObject;
+  explicit EditingKeys(QWidget& window) : QObject(&window) {
+    for (QWidget* edit : window.findChildren<QLineEdit*>()) edit->installEventFilter(this);
+    for (QWidget* edit : window.findChildren<QPlainTextEdit*>()) edit->installEventFilter(this);
+  }
 
   bool eventFilter(QObject*, QEvent* event) override {
     if (event->type() != QEvent::ShortcutOverride) return false;
@@ -64,10 +67,6 @@ void AddFightKeys(QWidget& window, const Perform& perform) {
   }
 }
 
-void KeepEditingKeys(QWidget& window) {
-  auto* keys = new EditingKeys(&window);
-  for (QWidget* edit : window.findChildren<QLineEdit*>()) edit->installEventFilter(keys);
-  for (QWidget* edit : window.findChildren<QPlainTextEdit*>()) edit->installEventFilter(keys);
-}
+void KeepEditingKeys(QWidget& window) { new EditingKeys(window); }
 
 }  // namespace ng

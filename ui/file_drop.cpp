@@ -1,5 +1,6 @@
 #include "ui/file_drop.h"
 
+#include <QApplication>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QMimeData>
@@ -48,6 +49,11 @@ bool FileDrop::eventFilter(QObject* watched, QEvent* event) {
   auto& drop = static_cast<QDropEvent&>(*event);
   const QStringList files = LocalFiles(*drop.mimeData());
   if (files.isEmpty()) return QObject::eventFilter(watched, event);
+  // A command that asks something runs to its end first.
+  if (QApplication::activeModalWidget() != nullptr) {
+    drop.ignore();
+    return true;
+  }
   drop.setDropAction(Qt::CopyAction);
   drop.accept();
   if (type == QEvent::Drop) perform_({"Form_Drop", 0, FilesToOpen(files)});
