@@ -10,9 +10,8 @@ namespace {
 namespace fs = std::filesystem;
 
 TEST(ProgramDirectory, IsTheUsersOnlyForAnInstalledProgram) {
-  std::string pattern = (fs::temp_directory_path() / "ngtracker-XXXXXX").string();
-  ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-  const fs::path root = pattern;
+  const fs::path root = fs::path(testing::TempDir()) / "ng_program_directory";
+  fs::remove_all(root);
   const fs::path userData = root / "home/data";
   setenv("XDG_DATA_HOME", userData.c_str(), 1);
   fs::create_directories(root / "usr/bin");
