@@ -129,13 +129,15 @@ void VisitSheet(const MainForm& form, ControlVisitor& visitor) {
 
 /// Who is displayed, and whose test and dice they are when they are somebody else's.
 std::string WhoRolls(const MainForm& form) {
+  const auto& players = form.fight.Players;
   const Slot shown = form.fight.CurrentPCpointer;
-  std::string name = form.fight.Players[shown].Name;
   const Slot tested = form.ngdr.TestOwner();
   const Slot paying = form.ngdr.PoolOwner();
-  if (tested != 0 && tested != shown) name += ", test of " + form.fight.Players[tested].Name;
-  if (paying != 0 && paying != shown && paying != tested) {
-    name += ", pool of " + form.fight.Players[paying].Name;
+  std::string name = players[shown].Name;
+  // Whoever has been removed since has no name.
+  if (tested != shown && !players[tested].Name.empty()) name += ", test of " + players[tested].Name;
+  if (paying != shown && paying != tested && !players[paying].Name.empty()) {
+    name += ", pool of " + players[paying].Name;
   }
   return name;
 }
