@@ -68,6 +68,7 @@ void DiceRoller::Form_Load(Files& files, const std::string& datDir) {
 
 void DiceRoller::tabTest_Click(TestPage page) {
   tabTest = page;
+  ++testsStarted_;
   testOwner_ = fight_.CurrentPCpointer;
   // The dice of an earlier test are not this one's.
   txtResult.clear();

@@ -120,6 +120,7 @@ class DiceRoller {
   /// are in the test; then it stays with its owner, whoever is looked at, so that a roll never
   /// spends somebody else's dice, and goes up and down with the owner's pool.
   void FollowPool();
+  int TestsStarted() const { return testsStarted_; }
   /// Who the test was started for, 0 before the first, and whose pool it takes its dice from.
   Slot TestOwner() const { return testOwner_; }
   Slot PoolOwner() const { return poolOwner_; }
@@ -159,6 +160,7 @@ class DiceRoller {
   /// What the boxes were last filled with.
   CombatantModifiers brought_;
   FixedTable<Integer, 100> dieTotals_;
+  int testsStarted_ = 0;
   Slot testOwner_;
   /// The range bracket of the shot, 0 short to 3 extreme; -1 when the test is no shot.
   int bracket_ = -1;

@@ -14,7 +14,6 @@
 #include <QTabWidget>
 #include <QTreeWidget>
 #include <algorithm>
-#include <iterator>
 #include <string_view>
 #include <utility>
 
@@ -50,13 +49,6 @@ constexpr int kWidestLeftPane = 560;
 
 void ShowText(QLabel& label, const QString& text) {
   if (label.text() != text) label.setText(text);
-}
-
-/// Whether the act starts a test, for which the dice roller comes into sight though it is open.
-bool StartsTest(const Act& act) {
-  constexpr std::string_view kControls[] = {"cmdShots1", "cmdShots3", "cmdShotsFA", "cmdUnarmed",
-                                            "cmdBody"};
-  return std::ranges::find(kControls, act.control) != std::end(kControls);
 }
 
 }  // namespace
@@ -156,9 +148,13 @@ void MainWindow::Place() {
 }
 
 void MainWindow::Do(const Act& act) {
+  const int tests = session_.main.ngdr.TestsStarted();
   session_.Do(act);
   PaintAll();
   BringToFront(act);
+  // The keys that roll the test mean something else in the main window.
+  const bool started = session_.main.ngdr.TestsStarted() != tests;
+  if (started && ngdr_ != nullptr && ngdr_->isVisible()) ngdr_->BringToFront();
   if (session_.main.closing) close();
 }
 
@@ -172,8 +168,6 @@ void MainWindow::BringToFront(const Act& act) {
   for (const auto& [control, window] : windows) {
     if (act.control == control && window != nullptr && window->isVisible()) window->BringToFront();
   }
-  // The keys that roll the test mean something else in the main window.
-  if (ngdr_ != nullptr && ngdr_->isVisible() && StartsTest(act)) ngdr_->BringToFront();
 }
 
 void MainWindow::PaintAll() {
