@@ -248,6 +248,10 @@ void FittedPage::MeasureText() {
 
 void FittedPage::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
+  if (!tight_.isValid()) {
+    MeasureText();
+    updateGeometry();
+  }
   const bool roomy = width() >= roomy_.width() && height() >= roomy_.height();
   SetText(roomy ? kTextPoints : kTightPoints);
 }

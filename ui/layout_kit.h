@@ -101,7 +101,8 @@ class FittedPage : public QWidget {
   QSize sizeHint() const override;
 
  protected:
-  /// Measures the page in both sizes; to be called when it holds everything.
+  /// Measures the page in both sizes; to be called when it holds everything. A page that is not
+  /// open at the start and needs no more room than the others leaves it to its first showing.
   void MeasureText();
   void resizeEvent(QResizeEvent* event) override;
 

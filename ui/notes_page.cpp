@@ -77,7 +77,6 @@ NotesPage::NotesPage(QWidget* parent) : FittedPage(parent) {
   columns->setSpacing(kGroupGap);
   columns->addWidget(MakeNote(this), 3);
   columns->addWidget(MakeContacts(this), 2);
-  MeasureText();
 }
 
 }  // namespace ng

@@ -156,7 +156,6 @@ PersonPage::PersonPage(QWidget* parent) : FittedPage(parent) {
   columns->addWidget(first);
   columns->addLayout(abilities, 1);
   columns->addLayout(knowledge, 1);
-  MeasureText();
 }
 
 }  // namespace ng
