@@ -270,6 +270,11 @@ void DiceRoller::FollowCombatant() {
   const CombatantModifiers now = Brought();
   // What the game master typed stands while nothing changes.
   if (now == brought_) return;
+  // Where a dodge counts the wounds, it counts what they are now.
+  std::string& dodge = board.txtRVar[kBodyWoundsBox];
+  if (brought_.wounds != 0 && dodge == ModifierText(brought_.wounds)) {
+    dodge = ModifierText(now.wounds);
+  }
   brought_ = now;
   board.Fill(now);
   UpdateTargetNumber();

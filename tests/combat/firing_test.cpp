@@ -242,6 +242,22 @@ TEST_F(FiringTest, DiceInATestStayTheirOwners) {
   EXPECT_EQ(main.pools.txtCP, std::to_string(before - 2));
 }
 
+TEST_F(FiringTest, WoundsCountForADodgeOnceAsked) {
+  program.Do("GridX_Click", 2);
+  program.Do("cmdLDam", 0);
+  program.Do("cmdBody");
+  const std::string& box = roller.board.txtRVar[kBodyWoundsBox];
+  EXPECT_EQ(box, "0");
+  program.Do("ngdr.lblBodyWounds");
+  EXPECT_EQ(box, "+1");
+  program.Do("cmdMDam", 0);
+  EXPECT_EQ(box, "+2");
+  program.Do("cmdDamZero", 0);
+  EXPECT_EQ(box, "0");
+  program.Do("cmdMDam", 0);
+  EXPECT_EQ(box, "0");
+}
+
 TEST_F(FiringTest, AWholeExchange) {
   // Ash: a burst of 3 at medium range, recoil 3, smartlink -2, half light +2, aim -1.
   Choose("cmdSkillPrimary", 0, specialisation);
