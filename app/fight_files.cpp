@@ -2,8 +2,11 @@
 
 #include "app/main_form.h"
 #include "base/number_text.h"
+#include "base/progress.h"
 #include "base/text.h"
+#include "import/character_import.h"
 #include "notes/note_file.h"
+#include "tracker/state_file.h"
 
 namespace ng {
 namespace {
@@ -81,6 +84,35 @@ std::string NameIn(std::string_view directory, const std::string& path) {
   return inside ? path.substr(length + 1) : path;
 }
 
+ImportTarget TargetOf(MainForm& form, Environment& environment) {
+  return {environment.files, environment.settings, form.gearTable, form.fight, form.characters};
+}
+
+/// A load that is under way, with the sheets that it has imported so far.
+class Restoring : public StateFileHost {
+ public:
+  Restoring(MainForm& form, Environment& environment, int combatants)
+      : form_(form),
+        environment_(environment),
+        progress_(environment.prompts, "Restoring the fight", combatants) {}
+
+  void ImportCharacter(const std::string& fileName) override {
+    progress_.Step();
+    LoadCharacterFile(TargetOf(form_, environment_), sheets_, fileName);
+  }
+
+  std::string ShowNote(const std::string& noteFileName) override {
+    form_.txtNotes = ReadNote(environment_.files, noteFileName);
+    return form_.txtNotes;
+  }
+
+ private:
+  MainForm& form_;
+  Environment& environment_;
+  Progress progress_;
+  ImportedSheets sheets_;
+};
+
 }  // namespace
 
 void FightFiles::ImportCharacters(const std::vector<std::string>& names) {
@@ -107,9 +139,7 @@ void FightFiles::ImportCharacters(const std::vector<std::string>& names) {
 
 void FightFiles::ImportOne(const std::string& name) {
   form_.StoreSheet();
-  const ImportTarget target{environment_.files, environment_.settings, form_.gearTable, form_.fight,
-                            form_.characters};
-  form_.XFerPC(LoadCharacterFile(target, name));
+  form_.XFerPC(LoadCharacterFile(TargetOf(form_, environment_), name));
   form_.RecalcArmor();
 }
 
@@ -160,11 +190,9 @@ void FightFiles::LoadState() {
 void FightFiles::LoadState(const std::string& path) {
   const ProfileFile file(environment_.files.ReadWhole(path));
   form_.StoreSheet();
-  sheets_.clear();
   try {
-    Progress progress(environment_.prompts, "Restoring the fight", CombatantsIn(file));
-    loading_ = &progress;
-    ReadStateFile(file, form_.fight, *this);
+    Restoring host(form_, environment_, CombatantsIn(file));
+    ReadStateFile(file, form_.fight, host);
   } catch (const RuntimeError&) {
     // Nothing of the sheet shown may be written over what was read.
     form_.ShowRestored(form_.fight.CurrentPCpointer);
@@ -179,18 +207,6 @@ void FightFiles::LoadState(const std::string& path) {
 }
 
 bool FightFiles::Changed() const { return WithoutLooks(form_.fight) != WithoutLooks(saved_); }
-
-void FightFiles::ImportCharacter(const std::string& fileName) {
-  loading_->Step();
-  const ImportTarget target{environment_.files, environment_.settings, form_.gearTable, form_.fight,
-                            form_.characters};
-  LoadCharacterFile(target, sheets_, fileName);
-}
-
-std::string FightFiles::ShowNote(const std::string& noteFileName) {
-  form_.txtNotes = ReadNote(environment_.files, noteFileName);
-  return form_.txtNotes;
-}
 
 void FightFiles::NameNoteFile(const std::string& path) {
   form_.txtNoteFileName = path;

@@ -1,13 +1,9 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
 
-#include "base/ports.h"
-#include "base/progress.h"
-#include "import/character_import.h"
-#include "tracker/state_file.h"
+#include "tracker/fight.h"
 
 namespace ng {
 
@@ -15,7 +11,7 @@ class MainForm;
 struct Environment;
 
 /// The files of the main window's File menu and notes page: characters, states and notes.
-class FightFiles : private StateFileHost {
+class FightFiles {
  public:
   FightFiles(MainForm& form, Environment& environment) : form_(form), environment_(environment) {}
 
@@ -47,18 +43,12 @@ class FightFiles : private StateFileHost {
   void SaveNote();
 
  private:
-  void ImportCharacter(const std::string& fileName) override;
-  std::string ShowNote(const std::string& noteFileName) override;
   void ImportOne(const std::string& name);
   void ReadInto(const std::string& path);
   void NameNoteFile(const std::string& path);
 
   MainForm& form_;
   Environment& environment_;
-  /// The sheets that this load has imported so far.
-  ImportedSheets sheets_;
-  /// Of the load that is under way.
-  Progress* loading_ = nullptr;
   Fight saved_;
 };
 

@@ -1,5 +1,7 @@
 #include "app/info_form.h"
 
+#include <algorithm>
+
 #include "app/main_form.h"
 #include "base/text.h"
 #include "import/item_figures.h"
@@ -80,17 +82,7 @@ void InfoForm::FillFigures(const std::string& line) {
       lstFigures.push_back(Row(figure.name, figure.value));
     }
   }
-  if (lstFigures.empty()) {
-    for (const ListColumns& columns : kColumns) {
-      if (columns.list != list_) continue;
-      for (int i = 0; i < static_cast<int>(columns.names.size()); ++i) {
-        const std::string_view value = Piece(line, '\t', i + 1);
-        if (!value.empty()) {
-          lstFigures.push_back(Row(columns.names[static_cast<std::size_t>(i)], value));
-        }
-      }
-    }
-  }
+  if (lstFigures.empty()) FillColumns(line);
   if (list_ == SheetList::Active) {
     const std::string type = ConvertSkill(form_.skillTable, lblItem);
     if (type != kNotFound) lstFigures.push_back(Row("Weapon type", type));
@@ -98,6 +90,16 @@ void InfoForm::FillFigures(const std::string& line) {
   if (item != nullptr) {
     const char* mark = list_ == SheetList::Armor ? "Worn" : "Carried";
     lstFigures.push_back(Row(mark, item->carried ? "yes" : "no"));
+  }
+}
+
+void InfoForm::FillColumns(const std::string& line) {
+  const auto* const columns = std::ranges::find(kColumns, list_, &ListColumns::list);
+  if (columns == kColumns.end()) return;
+  int column = 0;
+  for (const char* name : columns->names) {
+    const std::string_view value = Piece(line, '\t', ++column);
+    if (!value.empty()) lstFigures.push_back(Row(name, value));
   }
 }
 

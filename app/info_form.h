@@ -43,6 +43,7 @@ class InfoForm {
  private:
   void Fill();
   void FillFigures(const std::string& line);
+  void FillColumns(const std::string& line);
   void FillReference(const std::string& name);
 
   const MainForm& form_;

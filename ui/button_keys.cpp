@@ -6,6 +6,7 @@
 #include <QMainWindow>
 #include <QPlainTextEdit>
 #include <QShortcut>
+#include <algorithm>
 #include <string_view>
 
 #include "app/commands.h"
@@ -34,12 +35,13 @@ class EditingKeys : public QObject {
   bool eventFilter(QObject*, QEvent* event) override {
     if (event->type() != QEvent::ShortcutOverride) return false;
     const auto& key = static_cast<const QKeyEvent&>(*event);
-    for (const QKeySequence::StandardKey own :
-         {QKeySequence::DeleteEndOfWord, QKeySequence::DeleteStartOfWord,
-          QKeySequence::DeleteEndOfLine, QKeySequence::DeleteCompleteLine}) {
-      if (key.matches(own)) event->accept();
-    }
-    return event->isAccepted();
+    constexpr QKeySequence::StandardKey kOwn[] = {
+        QKeySequence::DeleteEndOfWord, QKeySequence::DeleteStartOfWord,
+        QKeySequence::DeleteEndOfLine, QKeySequence::DeleteCompleteLine};
+    const bool own = std::ranges::any_of(
+        kOwn, [&key](QKeySequence::StandardKey standard) { return key.matches(standard); });
+    if (own) event->accept();
+    return own;
   }
 };
 
