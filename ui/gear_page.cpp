@@ -11,12 +11,16 @@
 namespace ng {
 namespace {
 
-/// Keeps the room for any weight, so that the lists beside it stay as wide as they are.
-void HoldWeight(QLabel& weight) {
-  weight.ensurePolished();
-  weight.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  weight.setMinimumWidth(
-      weight.fontMetrics().horizontalAdvance(QStringLiteral("Total Weight: 0000.00")));
+/// The total weight. It keeps the room for any, so that the lists beside it stay as wide as they
+/// are.
+QLabel* MakeWeight(const QString& name, QWidget* parent) {
+  QLabel* weight = MakeValue(name, parent);
+  weight->ensurePolished();
+  weight->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  weight->setToolTip("Weight of everything worn and carried");
+  weight->setMinimumWidth(
+      weight->fontMetrics().horizontalAdvance(QStringLiteral("Total Weight: 0000.00")));
+  return weight;
 }
 
 struct ButtonWidths {
@@ -39,6 +43,22 @@ QPushButton* MakeWideButton(const Naming& naming, const QString& text, ButtonWid
   return button;
 }
 
+/// The button that tells all about the marked line of a list.
+QPushButton* MakeInfoButton(const QString& name, const QString& what, const QString& text,
+                            QWidget* parent) {
+  return MakeWideButton({name, "Info on the marked " + what,
+                         TipWithKey("Show every figure of the marked " + what, "Enter")},
+                        text, kInfoButton, parent);
+}
+
+/// The rows of a group whose title, with the weight of its list, the program fills in.
+QVBoxLayout* MakeWeighedRows(const QString& name, QGroupBox* group) {
+  group->setObjectName(name);
+  QVBoxLayout* rows = MakeGroupRows(group);
+  rows->setSpacing(6);
+  return rows;
+}
+
 QHBoxLayout* MakeHandRow(QWidget* parent) {
   ElidedLabel* name = MakeElided("lblNameX", parent);
   Embolden(name);
@@ -57,17 +77,13 @@ QHBoxLayout* MakeHandRow(QWidget* parent) {
                                 "&Secondary", kHandButton, parent),
                  8);
   row->addStretch(1);
-  row->addWidget(MakeWideButton({"cmdInfoWeapon", "Info on the marked weapon",
-                                 TipWithKey("Show every figure of the marked weapon", "Enter")},
-                                "&Info", kInfoButton, parent));
+  row->addWidget(MakeInfoButton("cmdInfoWeapon", "weapon", "&Info", parent));
   return row;
 }
 
 QGroupBox* MakeWeapons(QWidget* parent) {
   QGroupBox* group = MakeGroup("Weapons", parent);
-  group->setObjectName("grpWeapon");
-  QVBoxLayout* rows = MakeGroupRows(group);
-  rows->setSpacing(6);
+  QVBoxLayout* rows = MakeWeighedRows("grpWeapon", group);
   rows->addWidget(
       MakeList(
           {"lstWeapon", "Weapons", "Check mark: carried. The marked line goes into a hand"},
@@ -101,22 +117,15 @@ QHBoxLayout* MakeArmourFigures(QWidget* parent) {
     row->addWidget(figure);
   }
   row->addStretch();
-  QLabel* weight = MakeValue("lblWeight2", parent);
-  weight->setToolTip("Weight of everything worn and carried");
-  HoldWeight(*weight);
-  row->addWidget(weight);
+  row->addWidget(MakeWeight("lblWeight2", parent));
   row->addSpacing(4);
-  row->addWidget(MakeWideButton({"cmdInfoArmor", "Info on the marked armour",
-                                 TipWithKey("Show every figure of the marked armour", "Enter")},
-                                "Inf&o", kInfoButton, parent));
+  row->addWidget(MakeInfoButton("cmdInfoArmor", "armour", "Inf&o", parent));
   return row;
 }
 
 QGroupBox* MakeArmour(QWidget* parent) {
   QGroupBox* group = MakeGroup("Armour", parent);
-  group->setObjectName("grpArmor");
-  QVBoxLayout* rows = MakeGroupRows(group);
-  rows->setSpacing(6);
+  QVBoxLayout* rows = MakeWeighedRows("grpArmor", group);
   rows->addWidget(MakeList({"lstArmor", "Armour", "Check mark: worn"},
                            {ListColumn{"Worn armour"}, ListColumn{"Conceal", 62, Qt::AlignRight},
                             ListColumn{"Ballistic", 66, Qt::AlignRight},
@@ -130,23 +139,15 @@ QGroupBox* MakeArmour(QWidget* parent) {
 
 QGroupBox* MakeGear(QWidget* parent) {
   QGroupBox* group = MakeGroup("Gear", parent);
-  group->setObjectName("grpGear");
-  QVBoxLayout* rows = MakeGroupRows(group);
-  rows->setSpacing(6);
+  QVBoxLayout* rows = MakeWeighedRows("grpGear", group);
   rows->addWidget(MakeList({"lstGear", "Gear", "Check mark: carried"},
                            {ListColumn{"Carried gear"},
                             ListColumn{"Weight", kWeightColumn + 6, Qt::AlignRight, 48}},
                            group),
                   1);
-  QLabel* weight = MakeValue("lblWeight", group);
-  weight->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  weight->setToolTip("Weight of everything worn and carried");
-  HoldWeight(*weight);
   QHBoxLayout* row = MakeRow(6);
-  row->addWidget(MakeWideButton({"cmdInfoGear", "Info on the marked gear",
-                                 TipWithKey("Show every figure of the marked gear", "Enter")},
-                                "I&nfo", kInfoButton, group));
-  row->addWidget(weight, 1);
+  row->addWidget(MakeInfoButton("cmdInfoGear", "gear", "I&nfo", group));
+  row->addWidget(MakeWeight("lblWeight", group), 1);
   rows->addLayout(row);
   return group;
 }

@@ -15,7 +15,6 @@
 namespace ng {
 namespace {
 
-constexpr int kEdge = 12;
 constexpr int kTopicsWidth = 200;
 constexpr QSize kSize(860, 600);
 constexpr QSize kLeastSize(640, 400);
@@ -151,8 +150,7 @@ HelpWindow::HelpWindow(const Perform& perform, QWidget* parent)
   left->addWidget(filter_);
   left->addWidget(topics_, 1);
   auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(kEdge, kEdge, kEdge, kEdge);
-  row->setSpacing(kGroupGap);
+  SetEdges(*row);
   row->addLayout(left);
   row->addWidget(topic_, 1);
 }

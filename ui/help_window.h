@@ -1,8 +1,10 @@
 #pragma once
 
-#include "ui/note_windows.h"
+#include "ui/side_window.h"
 
+class QLineEdit;
 class QTextBrowser;
+class QTreeWidget;
 
 namespace ng {
 

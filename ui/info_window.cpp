@@ -12,7 +12,6 @@
 namespace ng {
 namespace {
 
-constexpr int kEdge = 12;
 constexpr int kNameColumn = 140;
 
 }  // namespace
@@ -30,8 +29,7 @@ InfoWindow::InfoWindow(const Perform& perform, QWidget* parent)
   reference_ = MakeEntryText(QStringLiteral("txtReference"), this);
   reference_->setPlaceholderText(tr("The reference file says nothing about it."));
   auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(kEdge, kEdge, kEdge, kEdge);
-  column->setSpacing(kGroupGap);
+  SetEdges(*column);
   column->addWidget(item_);
   column->addWidget(figures_, 3);
   column->addWidget(reference_, 2);

@@ -5,20 +5,15 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QShortcut>
 #include <QSignalBlocker>
 #include <QTreeWidget>
-#include <utility>
 
-#include "app/commands.h"
 #include "ui/layout_kit.h"
 #include "ui/list_paint.h"
 #include "ui/text.h"
 
 namespace ng {
 namespace {
-
-constexpr int kEdge = 12;
 
 /// Fills a list that goes on growing and shows its end, if it shows something else.
 void FollowLines(QTreeWidget& list, std::vector<std::string>& shown,
@@ -33,41 +28,7 @@ void FollowLines(QTreeWidget& list, std::vector<std::string>& shown,
   list.scrollToBottom();
 }
 
-QVBoxLayout* MakeColumn(QWidget* window) {
-  auto* column = new QVBoxLayout(window);
-  column->setContentsMargins(kEdge, kEdge, kEdge, kEdge);
-  column->setSpacing(kGroupGap);
-  return column;
-}
-
 }  // namespace
-
-SideWindow::SideWindow(const QString& name, const QString& title, const char* closeAct,
-                       Perform perform, QWidget* parent)
-    : QDialog(parent), closeAct_(closeAct), perform_(std::move(perform)) {
-  setObjectName(name);
-  setWindowTitle(title);
-  setModal(false);
-  // The main window's menus do not hear the keys of this one.
-  const QString key = QString::fromLatin1(FindCommand("mnuHelpContents")->shortcut);
-  auto* help = new QShortcut(QKeySequence(key, QKeySequence::PortableText), this);
-  connect(help, &QShortcut::activated, this, [this] {
-    Do({"mnuHelpContents", 0, FromQString(objectName())});
-  });
-}
-
-void SideWindow::reject() { Do({closeAct_}); }
-
-void SideWindow::BringToFront() {
-  raise();
-  activateWindow();
-}
-
-void SideWindow::SetOpen(bool open) {
-  if (open == isVisible()) return;
-  setVisible(open);
-  if (open) activateWindow();
-}
 
 QPlainTextEdit* MakeEntryText(const QString& name, QWidget* parent) {
   auto* text = new QPlainTextEdit(parent);
@@ -109,7 +70,8 @@ GmWindow::GmWindow(const Perform& perform, QWidget* parent)
   buttons->addWidget(log);
   buttons->addStretch(1);
   buttons->addWidget(shut);
-  auto* column = MakeColumn(this);
+  auto* column = new QVBoxLayout(this);
+  SetEdges(*column);
   column->addWidget(lines_, 1);
   column->addLayout(buttons);
 }
@@ -135,7 +97,8 @@ LogWindow::LogWindow(const Perform& perform, QWidget* parent)
   auto* row = MakeRow(kGroupGap);
   row->addWidget(count_, 1);
   row->addWidget(shut);
-  auto* column = MakeColumn(this);
+  auto* column = new QVBoxLayout(this);
+  SetEdges(*column);
   column->addWidget(lines_, 1);
   column->addLayout(row);
 }
@@ -173,8 +136,7 @@ ReferenceWindow::ReferenceWindow(const Perform& perform, QWidget* parent)
   left->addWidget(filter_);
   left->addWidget(names_, 1);
   auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(kEdge, kEdge, kEdge, kEdge);
-  row->setSpacing(kGroupGap);
+  SetEdges(*row);
   row->addLayout(left, 2);
   row->addWidget(entry_, 3);
 }

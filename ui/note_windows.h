@@ -1,9 +1,6 @@
 #pragma once
 
-#include <QDialog>
-
-#include "app/main_form.h"
-#include "ui/acts.h"
+#include "ui/side_window.h"
 
 class QLabel;
 class QLineEdit;
@@ -11,28 +8,6 @@ class QPlainTextEdit;
 class QTreeWidget;
 
 namespace ng {
-
-/// A window beside the main one that follows a form: shown while the form is open, brought to the
-/// front when it is asked for again. Closing it is an act, and F1 asks for the help on it.
-class SideWindow : public QDialog {
-  Q_OBJECT
-
- public:
-  SideWindow(const QString& name, const QString& title, const char* closeAct, Perform perform,
-             QWidget* parent);
-
-  void reject() override;
-  /// Shows the window above the one that asked for it.
-  void BringToFront();
-
- protected:
-  void Do(const Act& act) { perform_(act); }
-  void SetOpen(bool open);
-
- private:
-  const char* closeAct_;
-  Perform perform_;
-};
 
 /// A read-only text of the reference file, named as told.
 QPlainTextEdit* MakeEntryText(const QString& name, QWidget* parent);

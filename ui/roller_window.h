@@ -3,7 +3,7 @@
 #include <memory>
 #include <vector>
 
-#include "ui/note_windows.h"
+#include "ui/side_window.h"
 
 class QFrame;
 class QTabBar;
