@@ -5,12 +5,14 @@
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QShortcut>
 #include <algorithm>
 #include <string_view>
 
 #include "app/commands.h"
 #include "app/keys.h"
+#include "ui/layout_kit.h"
 
 namespace ng {
 namespace {
@@ -51,9 +53,15 @@ void AddButtonKeys(QMainWindow& window) {
   for (const ButtonKey& entry : MainKeys()) {
     auto* button = window.findChild<QAbstractButton*>(QString::fromLatin1(entry.button));
     auto* shortcut = new QShortcut(Sequence(entry.key), &window);
+    button->setToolTip(TipWithKey(button->toolTip(), shortcut->key().toString()));
     // A click and not a press, so that a button on a page that is not open answers too.
     QObject::connect(shortcut, &QShortcut::activated, button, [button] { button->click(); });
   }
+}
+
+void PressWithKey(Qt::Key key, QLineEdit* box, QPushButton* button) {
+  new QShortcut(
+      QKeySequence(key), box, button, [button] { button->click(); }, Qt::WidgetShortcut);
 }
 
 void AddFightKeys(QWidget& window, const Perform& perform) {

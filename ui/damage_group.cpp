@@ -42,33 +42,16 @@ struct DamageButton {
   Face face;
   const char* accessible;
   const char* tip;
-  /// Physical, stun.
-  std::array<const char*, 2> keys;
 };
 
 constexpr std::array<DamageButton, 7> kButtons = {{
-    {"cmdLDam", "L", Face::Wound, "Light wound", "a Light wound, 1 box", {"Ctrl+1", "Ctrl+5"}},
-    {"cmdMDam",
-     "M",
-     Face::Wound,
-     "Moderate wound",
-     "a Moderate wound, 3 boxes",
-     {"Ctrl+2", "Ctrl+6"}},
-    {"cmdSDam",
-     "S",
-     Face::Wound,
-     "Serious wound",
-     "a Serious wound, 6 boxes",
-     {"Ctrl+3", "Ctrl+7"}},
-    {"cmdDDam", "D", Face::Wound, "Deadly wound", "a Deadly wound, 10 boxes", {"Ctrl+4", "Ctrl+8"}},
-    {"cmdReduce",
-     "–",
-     Face::Step,
-     "one box less",
-     "one box less",
-     {"Ctrl+Down", "Ctrl+Shift+Down"}},
-    {"cmdIncrease", "+", Face::Step, "one box more", "one box more", {"Ctrl+Up", "Ctrl+Shift+Up"}},
-    {"cmdDamZero", "0", Face::Step, "clear all damage", "clear all damage", {"Ctrl+0", "Ctrl+9"}},
+    {"cmdLDam", "L", Face::Wound, "Light wound", "a Light wound, 1 box"},
+    {"cmdMDam", "M", Face::Wound, "Moderate wound", "a Moderate wound, 3 boxes"},
+    {"cmdSDam", "S", Face::Wound, "Serious wound", "a Serious wound, 6 boxes"},
+    {"cmdDDam", "D", Face::Wound, "Deadly wound", "a Deadly wound, 10 boxes"},
+    {"cmdReduce", "–", Face::Step, "one box less", "one box less"},
+    {"cmdIncrease", "+", Face::Step, "one box more", "one box more"},
+    {"cmdDamZero", "0", Face::Step, "clear all damage", "clear all damage"},
 }};
 
 QVBoxLayout* MakeBar(Track track, QWidget* parent) {
@@ -106,10 +89,10 @@ QHBoxLayout* MakeTrack(Track track, QWidget* parent) {
   row->addWidget(count);
   for (const DamageButton& button : kButtons) {
     const QString tip = QStringLiteral("%1: %2").arg(names.title, button.tip);
-    QPushButton* widget = MakeButton({ElementName(button.name, static_cast<int>(index)),
-                                      QStringLiteral("%1: %2").arg(names.title, button.accessible),
-                                      TipWithKey(tip, button.keys[index])},
-                                     button.text, parent);
+    QPushButton* widget =
+        MakeButton({ElementName(button.name, static_cast<int>(index)),
+                    QStringLiteral("%1: %2").arg(names.title, button.accessible), tip},
+                   button.text, parent);
     widget->setFixedWidth(kTallButtonWidth);
     widget->setMaximumHeight(kTallButton);
     widget->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);

@@ -6,9 +6,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QShortcut>
 #include <array>
 
+#include "ui/button_keys.h"
 #include "ui/layout_kit.h"
 
 namespace ng {
@@ -27,13 +27,14 @@ struct Pool {
   const char* plus;
   const char* minusTip;
   const char* plusTip;
+  /// In the box; none where keys of the whole window do the same.
   const char* minusKey;
   const char* plusKey;
 };
 
 constexpr std::array<Pool, 5> kPools = {{
     {"CP", "Combat", "Combat pool", "txtCP", "cmdCPnegative", "cmdCPplus",
-     "Take a die from the combat pool", "Add a die to the combat pool", "Alt+Left", "Alt+Right"},
+     "Take a die from the combat pool", "Add a die to the combat pool", nullptr, nullptr},
     {"SP", "Spell", "Spell pool", "txtSP", "cmdSPnegative", "cmdSPplus",
      "Take a die from the spell pool", "Add a die to the spell pool", "Down in the box",
      "Up in the box"},
@@ -49,9 +50,8 @@ constexpr std::array<Pool, 5> kPools = {{
      "Up in the box"},
 }};
 
-void PressWithKey(Qt::Key key, QLineEdit* box, QPushButton* button) {
-  new QShortcut(
-      QKeySequence(key), box, button, [button] { button->click(); }, Qt::WidgetShortcut);
+QString TipOf(const char* tip, const char* key) {
+  return key == nullptr ? QString(tip) : TipWithKey(tip, key);
 }
 
 void AddPool(QGridLayout* grid, const Pool& pool, QWidget* parent) {
@@ -61,11 +61,11 @@ void AddPool(QGridLayout* grid, const Pool& pool, QWidget* parent) {
   QLabel* caption = MakeCaption(pool.text, parent);
   QPushButton* minus =
       MakeButton({pool.minus, QStringLiteral("%1: take a die").arg(pool.accessible),
-                  TipWithKey(pool.minusTip, pool.minusKey)},
+                  TipOf(pool.minusTip, pool.minusKey)},
                  "–", parent);
   QLineEdit* box = MakeBox({pool.box, pool.accessible, "Dice left"}, kPoolBoxWidth, parent);
   QPushButton* plus = MakeButton({pool.plus, QStringLiteral("%1: add a die").arg(pool.accessible),
-                                  TipWithKey(pool.plusTip, pool.plusKey)},
+                                  TipOf(pool.plusTip, pool.plusKey)},
                                  "+", parent);
   box->setMinimumWidth(kLeastPoolBoxWidth);
   minus->setFixedSize(kSmallButtonWidth, kSmallButtonHeight);

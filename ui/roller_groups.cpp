@@ -7,10 +7,10 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QShortcut>
 #include <QTimer>
 
 #include "roller/dice_roller.h"
+#include "ui/button_keys.h"
 #include "ui/layout_kit.h"
 
 namespace ng {
@@ -41,11 +41,6 @@ class SelectOnFocus : public QObject {
  private:
   QTimer afterwards_;
 };
-
-void PressWithKey(Qt::Key key, QLineEdit* box, QPushButton* button) {
-  new QShortcut(
-      QKeySequence(key), box, button, [button] { button->click(); }, Qt::WidgetShortcut);
-}
 
 QLineEdit* MakeLargeBox(const Naming& naming, QWidget* parent) {
   QLineEdit* box = MakeBox(naming, kDiceBoxWidth, parent);

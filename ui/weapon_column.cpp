@@ -40,15 +40,12 @@ struct WeaponNames {
   const char* skillLevel;
   const char* total;
   const char* ranges;
-  /// Goes before the function key.
-  const char* shift;
 };
 
 constexpr std::array<WeaponNames, 2> kWeapons = {
-    {{"Primary", "lblPrimary", "lblSkillPrimary", "lblSkillPrimaryLevel", "lblWPrim", "lblPRng",
-      ""},
+    {{"Primary", "lblPrimary", "lblSkillPrimary", "lblSkillPrimaryLevel", "lblWPrim", "lblPRng"},
      {"Secondary", "lblSecondary", "lblSkillSecondary", "lblSkillSecondaryLevel", "lblWSec",
-      "lblSRng", "Shift+"}}};
+      "lblSRng"}}};
 
 struct Words {
   const char* name;
@@ -72,15 +69,10 @@ constexpr std::array<Words, 3> kSights = {{{"chkSmL", "Smartlink", "Smartlink in
                                            {"chkLaserSight", "Laser", "Laser sight in use"},
                                            {"chkSmtGoggles", "Goggles", "Smart goggles in use"}}};
 
-struct Trigger {
-  Words words;
-  const char* key;
-};
-
-constexpr std::array<Trigger, 3> kTriggers = {
-    {{{"cmdShots1", "1 shot", "Fire one round"}, "F2"},
-     {{"cmdShots3", "3 shots", "Fire a burst of three rounds"}, "F3"},
-     {{"cmdShotsFA", "Full auto", "Fire full automatic"}, "F4"}}};
+constexpr std::array<Words, 3> kTriggers = {
+    {{"cmdShots1", "1 shot", "Fire one round"},
+     {"cmdShots3", "3 shots", "Fire a burst of three rounds"},
+     {"cmdShotsFA", "Full auto", "Fire full automatic"}}};
 
 const WeaponNames& NamesOf(int index) { return kWeapons[static_cast<std::size_t>(index)]; }
 
@@ -228,9 +220,8 @@ QHBoxLayout* WeaponColumn::MakeRounds() {
   left->setFont(InterfaceFont(kRoundsLeftPoints, true));
   left->setProperty("alarmText", QStringLiteral("0"));
   left->setToolTip("Rounds left in the magazine");
-  const QString key = QStringLiteral("%1F6").arg(NamesOf(index_).shift);
-  QPushButton* reload = MakeButton(
-      {Own("cmdShotsZ"), Spoken("Reload"), TipWithKey("Fill the magazine", key)}, "Reload", this);
+  QPushButton* reload =
+      MakeButton({Own("cmdShotsZ"), Spoken("Reload"), "Fill the magazine"}, "Reload", this);
   reload->setMinimumSize(kLeastReloadWidth, kSmallButtonHeight + 2);
   reload->setMaximumWidth(kReloadWidth);
   reload->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -246,10 +237,9 @@ QHBoxLayout* WeaponColumn::MakeRounds() {
 
 QHBoxLayout* WeaponColumn::MakeTriggers() {
   QHBoxLayout* row = MakeRow();
-  for (const auto& [words, key] : kTriggers) {
-    const QString ownKey = QLatin1String(NamesOf(index_).shift) + key;
-    QPushButton* trigger = MakeButton(
-        {Own(words.name), Spoken(words.text), TipWithKey(words.tip, ownKey)}, words.text, this);
+  for (const Words& words : kTriggers) {
+    QPushButton* trigger =
+        MakeButton({Own(words.name), Spoken(words.text), words.tip}, words.text, this);
     Embolden(trigger);
     trigger->setMinimumHeight(kLeastTriggerHeight);
     trigger->setMaximumHeight(kTriggerHeight);
