@@ -181,4 +181,20 @@ class GuiProgram : private StartupWindows {
   const std::string sample_ = NG_SOURCE_DIR "/sample";
 };
 
+/// What the tests of the windows share: the program, on the sample campaign.
+class GuiTest : public QObject {
+ protected:
+  void Start() {
+    program_->InstallSample();
+    program_->Start();
+  }
+  void StartFight() {
+    Start();
+    program_->ImportEight();
+    QCOMPARE(program_->Rows(), 8);
+  }
+
+  std::unique_ptr<GuiProgram> program_;
+};
+
 }  // namespace ng

@@ -23,21 +23,10 @@
 namespace ng {
 
 /// The main window under real clicks and keys.
-class MainWindowTest : public QObject {
+class MainWindowTest : public GuiTest {
   Q_OBJECT
 
  private:
-  std::unique_ptr<GuiProgram> program_;
-
-  void Start() {
-    program_->InstallSample();
-    program_->Start();
-  }
-  void StartFight() {
-    Start();
-    program_->ImportEight();
-    QCOMPARE(program_->Rows(), 8);
-  }
   int Boxes(const char* bar) const { return program_->Find<DamageBar>(bar).boxes(); }
   PlayerRecord& Displayed() const {
     return program_->fight.Players[program_->fight.CurrentPCpointer];

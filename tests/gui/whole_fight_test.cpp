@@ -13,11 +13,10 @@
 namespace ng {
 
 /// A fight from the import to the restored state file, in the real windows.
-class WholeFightTest : public QObject {
+class WholeFightTest : public GuiTest {
   Q_OBJECT
 
  private:
-  std::unique_ptr<GuiProgram> program_;
   const QTemporaryDir directory_;
 
   void ClickLine(const char* list, const char* text) const {
@@ -136,9 +135,7 @@ void WholeFightTest::SurvivesARestart() {
   const QString path = QStringLiteral("fight.ngt");
   QVERIFY(QDir::setCurrent(directory_.path()));
   program_ = std::make_unique<GuiProgram>();
-  program_->InstallSample();
-  program_->Start();
-  program_->ImportEight();
+  StartFight();
   program_->Key(Qt::Key_R, Qt::ControlModifier);
   ShootAsVex();
   if (QTest::currentTestFailed()) return;

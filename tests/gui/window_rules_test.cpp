@@ -20,21 +20,10 @@
 namespace ng {
 
 /// What holds for every control: names, keys, places.
-class WindowRulesTest : public QObject {
+class WindowRulesTest : public GuiTest {
   Q_OBJECT
 
  private:
-  std::unique_ptr<GuiProgram> program_;
-
-  void Start() {
-    program_->InstallSample();
-    program_->Start();
-  }
-  void StartFight() {
-    Start();
-    program_->ImportEight();
-    QCOMPARE(program_->Rows(), 8);
-  }
   QHash<QString, QRect> Geometries() const;
   QStringList MnemonicsInSight() const;
   static QStringList NamelessInSight(int& controls);
