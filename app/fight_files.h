@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "tracker/fight.h"
+#include "tracker/fight/fight.h"
 
 namespace ng {
 

@@ -8,7 +8,8 @@
 #include "app/help_form.h"
 #include "app/info_form.h"
 #include "app/options_form.h"
-#include "app/settings.h"
+#include "app/settings/settings.h"
+#include "app/window_layout.h"
 #include "base/ports.h"
 #include "combat/damage_monitor.h"
 #include "combat/firing.h"
@@ -26,7 +27,7 @@
 #include "roller/dice_roller.h"
 #include "roller/skill_level.h"
 #include "tracker/actions.h"
-#include "tracker/fight.h"
+#include "tracker/fight/fight.h"
 #include "tracker/grid.h"
 #include "tracker/sequencer.h"
 
@@ -59,14 +60,6 @@ struct HeaderPanel {
   int optInitMode = 0;
 
   void Show(const PlayerRecord& record);
-};
-
-/// Place and size of the main window, in twips (1/20 of a point, 15 to a pixel).
-struct WindowLayout {
-  int MainLeft = 1000;
-  int MainTop = 1000;
-  int MainWidth = 6500;
-  int MainHeight = 6500;
 };
 
 /// The main window without the toolkit: the fight, the panels that show the displayed combatant,

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "app/settings.h"
+#include "app/settings/settings.h"
 
 namespace ng {
 

@@ -1,22 +1,11 @@
 #pragma once
 
-#include <string>
-
+#include "app/act.h"
 #include "app/main_form.h"
 #include "app/options_form.h"
 #include "import/loader.h"
 
 namespace ng {
-
-/// One thing that the game master did: the control and its event, the control's index where it has
-/// one (a row, a code, an element of a control array), and a text where there is one.
-struct Act {
-  std::string control;
-  int index = 0;
-  std::string text = {};
-
-  friend bool operator==(const Act&, const Act&) = default;
-};
 
 /// The running program without its windows. Every act comes through `Do`, so that a fight can be
 /// written down as a list of acts and played again.

@@ -6,7 +6,7 @@
 
 namespace ng {
 
-// Text is 8-bit, one byte a character, in the Windows-1252 code page; only ui/text converts.
+// Text is 8-bit, one byte a character, in the Windows-1252 code page; only ui/wiring/text converts.
 
 std::string_view TrimmedLeft(std::string_view text);
 /// `text` without blanks and tabs at both ends.

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "base/integer.h"
-#include "tracker/fight.h"
-#include "tracker/player_record.h"
+#include "tracker/fight/fight.h"
+#include "tracker/fight/player_record.h"
 #include "tracker/sequencer.h"
 
 namespace ng {

@@ -2,14 +2,14 @@
 
 #include <string_view>
 
-#include "app/settings.h"
+#include "app/settings/settings.h"
 #include "base/ports.h"
 #include "combat/weapons.h"
 #include "import/character_sheet.h"
 #include "import/reference_tables.h"
 #include "notes/gm_log.h"
 #include "roller/dice_roller.h"
-#include "tracker/fight.h"
+#include "tracker/fight/fight.h"
 
 namespace ng {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "tracker/player_record.h"
+#include "tracker/fight/player_record.h"
 
 namespace ng {
 

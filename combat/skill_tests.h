@@ -2,12 +2,12 @@
 
 #include <string>
 
-#include "app/settings.h"
+#include "app/settings/settings.h"
 #include "base/ports.h"
 #include "combat/firing.h"
 #include "roller/dice_roller.h"
 #include "roller/skill_level.h"
-#include "tracker/fight.h"
+#include "tracker/fight/fight.h"
 
 namespace ng {
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/integer.h"
-#include "tracker/player_record.h"
+#include "tracker/fight/player_record.h"
 
 namespace ng {
 

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "import/character_sheet.h"
-#include "tracker/player_record.h"
+#include "tracker/fight/player_record.h"
 
 namespace ng {
 

@@ -6,7 +6,7 @@
 
 #include "import/armour.h"
 #include "import/character_sheet.h"
-#include "tracker/player_record.h"
+#include "tracker/fight/player_record.h"
 
 namespace ng {
 

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/encoding.h"
+#include "app/settings/encoding.h"
 #include "base/number_text.h"
 #include "base/text.h"
 #include "import/armour.h"

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/profile_file.h"
+#include "app/settings/profile_file.h"
 #include "import/character_sheet.h"
 #include "import/reference_tables.h"
-#include "tracker/player_record.h"
+#include "tracker/fight/player_record.h"
 
 namespace ng {
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "app/profile_file.h"
+#include "app/settings/profile_file.h"
 #include "base/number_text.h"
 #include "base/runtime_error.h"
 #include "import/armour.h"

@@ -3,11 +3,11 @@
 #include <map>
 #include <string>
 
-#include "app/settings.h"
+#include "app/settings/settings.h"
 #include "base/ports.h"
 #include "import/character_sheet.h"
 #include "import/reference_tables.h"
-#include "tracker/fight.h"
+#include "tracker/fight/fight.h"
 
 namespace ng {
 

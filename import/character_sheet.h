@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "base/fixed_table.h"
-#include "tracker/fight.h"
+#include "tracker/fight/fight.h"
 
 namespace ng {
 

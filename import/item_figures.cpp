@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "app/encoding.h"
-#include "app/profile_file.h"
+#include "app/settings/encoding.h"
+#include "app/settings/profile_file.h"
 #include "base/number_text.h"
 #include "base/text.h"
 

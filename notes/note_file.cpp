@@ -1,6 +1,6 @@
 #include "notes/note_file.h"
 
-#include "app/encoding.h"
+#include "app/settings/encoding.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
 

@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <cstdio>
 
-#include "ui/icons.h"
+#include "ui/look/icons.h"
 
 namespace {
 

@@ -9,7 +9,7 @@
 #include "base/ports.h"
 #include "roller/modifier_board.h"
 #include "roller/visability_table.h"
-#include "tracker/fight.h"
+#include "tracker/fight/fight.h"
 
 namespace ng {
 

@@ -7,7 +7,7 @@
 #include "base/fixed_table.h"
 #include "base/integer.h"
 #include "base/ports.h"
-#include "tracker/player_record.h"
+#include "tracker/fight/player_record.h"
 
 namespace ng {
 

@@ -8,9 +8,9 @@
 #include "tour/guide.h"
 #include "tour/sample_fight.h"
 #include "tour/sample_program.h"
+#include "ui/dialogs/splash.h"
+#include "ui/look/theme.h"
 #include "ui/program.h"
-#include "ui/splash.h"
-#include "ui/theme.h"
 
 namespace ng {
 namespace {

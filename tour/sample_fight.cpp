@@ -11,9 +11,9 @@
 #include <QTreeWidget>
 #include <array>
 
-#include "ui/roller_window.h"
-#include "ui/text.h"
-#include "ui/window_place.h"
+#include "ui/main/window_place.h"
+#include "ui/side/roller_window.h"
+#include "ui/wiring/text.h"
 
 namespace ng {
 namespace {

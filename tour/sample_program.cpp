@@ -3,8 +3,8 @@
 #include <QApplication>
 #include <QSettings>
 
-#include "ui/path_text.h"
-#include "ui/theme.h"
+#include "ui/look/theme.h"
+#include "ui/wiring/path_text.h"
 
 namespace ng {
 

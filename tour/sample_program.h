@@ -7,8 +7,8 @@
 #include "base/seeded_uniform.h"
 #include "platform/files.h"
 #include "platform/user_settings.h"
-#include "ui/main_window.h"
-#include "ui/prompts.h"
+#include "ui/dialogs/prompts.h"
+#include "ui/main/main_window.h"
 
 namespace ng {
 

@@ -5,7 +5,7 @@
 #include "base/ports.h"
 #include "import/character_sheet.h"
 #include "notes/gm_log.h"
-#include "tracker/fight.h"
+#include "tracker/fight/fight.h"
 #include "tracker/grid.h"
 #include "tracker/sequencer.h"
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "base/integer.h"
-#include "tracker/fight.h"
+#include "tracker/fight/fight.h"
 
 namespace ng {
 

@@ -4,7 +4,7 @@
 
 #include "base/integer.h"
 #include "base/ports.h"
-#include "tracker/fight.h"
+#include "tracker/fight/fight.h"
 #include "tracker/grid.h"
 
 namespace ng {

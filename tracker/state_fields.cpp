@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "app/encoding.h"
+#include "app/settings/encoding.h"
 #include "base/number_text.h"
 
 namespace ng {

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "tracker/player_record.h"
+#include "tracker/fight/player_record.h"
 
 namespace ng {
 

@@ -4,7 +4,7 @@
 #include <array>
 #include <span>
 
-#include "app/encoding.h"
+#include "app/settings/encoding.h"
 #include "base/number_text.h"
 #include "tracker/state_fields.h"
 

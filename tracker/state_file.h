@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "app/profile_file.h"
-#include "tracker/fight.h"
+#include "app/settings/profile_file.h"
+#include "tracker/fight/fight.h"
 
 namespace ng {
 

@@ -12,13 +12,13 @@
 #include "platform/program_directory.h"
 #include "platform/seed.h"
 #include "platform/user_settings.h"
-#include "ui/file_drop.h"
-#include "ui/icons.h"
-#include "ui/main_window.h"
-#include "ui/prompts.h"
-#include "ui/splash.h"
-#include "ui/text.h"
-#include "ui/theme.h"
+#include "ui/dialogs/prompts.h"
+#include "ui/dialogs/splash.h"
+#include "ui/look/icons.h"
+#include "ui/look/theme.h"
+#include "ui/main/main_window.h"
+#include "ui/wiring/file_drop.h"
+#include "ui/wiring/text.h"
 
 namespace ng {
 namespace {

@@ -1,8 +1,8 @@
-#include "app/settings.h"
+#include "app/settings/settings.h"
 
 #include <gtest/gtest.h>
 
-#include "app/encoding.h"
+#include "app/settings/encoding.h"
 #include "app/startup.h"
 #include "fakes/test_program.h"
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "app/session.h"
+#include "app/act.h"
 #include "base/ports.h"
 
 namespace ng {

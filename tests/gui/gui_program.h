@@ -18,10 +18,10 @@
 #include "app/startup.h"
 #include "base/seeded_uniform.h"
 #include "fakes/fakes.h"
-#include "ui/main_window.h"
-#include "ui/prompts.h"
-#include "ui/text.h"
-#include "ui/theme.h"
+#include "ui/dialogs/prompts.h"
+#include "ui/look/theme.h"
+#include "ui/main/main_window.h"
+#include "ui/wiring/text.h"
 
 namespace ng {
 

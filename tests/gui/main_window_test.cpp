@@ -18,7 +18,7 @@
 
 #include "app/commands.h"
 #include "gui/gui_program.h"
-#include "ui/damage_bar.h"
+#include "ui/widgets/damage_bar.h"
 
 namespace ng {
 

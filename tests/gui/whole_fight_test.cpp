@@ -8,7 +8,7 @@
 #include <QTreeWidget>
 
 #include "gui/gui_program.h"
-#include "ui/damage_bar.h"
+#include "ui/widgets/damage_bar.h"
 
 namespace ng {
 

@@ -15,7 +15,7 @@
 #include <QTextEdit>
 
 #include "gui/gui_program.h"
-#include "ui/combat_page.h"
+#include "ui/main/combat_page.h"
 
 namespace ng {
 

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <filesystem>
 #include <fstream>
@@ -5,6 +6,7 @@
 #include <regex>
 #include <set>
 #include <string>
+#include <string_view>
 
 #include "base/text.h"
 
@@ -13,40 +15,36 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The floors from the ground up. app/ and tracker/ stand on two of them each: the files named here
-/// are those of the lower one.
-const std::set<std::string> kLowerApp = {"profile_file", "encoding", "settings"};
-const std::set<std::string> kLowerTracker = {"player_record", "fight"};
-constexpr std::array<const char*, 12> kFloors = {"base",   "app 1",    "tracker 1", "notes",
-                                                 "roller", "import",   "tracker 2", "combat",
-                                                 "app 2",  "platform", "ui",        "tour"};
+/// The floors from the ground up: each is a folder with all that lies in it, but for what is a
+/// floor of its own.
+constexpr std::array<std::string_view, 12> kFloors = {
+    "base",    "app/settings", "tracker/fight", "notes",    "roller", "import",
+    "tracker", "combat",       "app",           "platform", "ui",     "tour"};
 
-std::string FloorName(const fs::path& file) {
-  const std::string folder = file.begin()->string();
-  const std::string stem = file.stem().string();
-  if (folder == "app") return kLowerApp.count(stem) > 0 ? "app 1" : "app 2";
-  if (folder == "tracker") return kLowerTracker.count(stem) > 0 ? "tracker 1" : "tracker 2";
-  return folder;
+/// The floor whose folder holds the file: of two the inner one.
+std::string_view FloorName(const fs::path& file) {
+  std::string_view name;
+  for (const std::string_view floor : kFloors) {
+    const bool inside = file.generic_string().starts_with(std::string(floor) + "/");
+    if (inside && floor.size() > name.size()) name = floor;
+  }
+  return name;
 }
 
-int FloorOf(const fs::path& file) {
-  const std::string name = FloorName(file);
-  for (std::size_t i = 0; i < kFloors.size(); ++i) {
-    if (name == kFloors[i]) return static_cast<int>(i);
-  }
-  return -1;
+std::ptrdiff_t FloorOf(const fs::path& file) {
+  return std::find(kFloors.begin(), kFloors.end(), FloorName(file)) - kFloors.begin();
 }
 
 /// Whether a file may include another: downwards, but for the neighbours that do not see one
 /// another and for platform/, which sees base/ only.
 bool MayInclude(const fs::path& from, const fs::path& to) {
-  const std::string lower = FloorName(to);
-  const std::string upper = FloorName(from);
+  const std::string_view lower = FloorName(to);
+  const std::string_view upper = FloorName(from);
   if (lower == upper) return true;
   if (upper == "platform") return lower == "base";
-  const std::set<std::string> strangers = {"notes", "roller", "import"};
+  const std::set<std::string_view> strangers = {"notes", "roller", "import"};
   if (strangers.count(lower) > 0 && strangers.count(upper) > 0) return false;
-  return FloorOf(to) >= 0 && FloorOf(to) < FloorOf(from);
+  return !lower.empty() && FloorOf(to) < FloorOf(from);
 }
 
 TEST(Floors, NoIncludeLooksUp) {

@@ -1,4 +1,4 @@
-#include "tracker/fight.h"
+#include "tracker/fight/fight.h"
 
 #include <gtest/gtest.h>
 

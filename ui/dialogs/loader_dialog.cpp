@@ -1,0 +1,156 @@
+#include "ui/dialogs/loader_dialog.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QGridLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTreeView>
+#include <utility>
+
+#include "app/session.h"
+#include "ui/widgets/directory_picker.h"
+#include "ui/wiring/path_text.h"
+#include "ui/wiring/text.h"
+
+namespace ng {
+namespace {
+
+/// A label of the form with the mnemonic marked. The blanks in front set it in a little.
+QString Caption(const char* label, char mnemonic) {
+  QString text = QString::fromLatin1(label);
+  return text.insert(text.indexOf(QLatin1Char(mnemonic)), QLatin1Char('&'));
+}
+
+QLabel* LabelFor(QWidget* buddy, const char* label, char mnemonic) {
+  auto* caption = new QLabel(Caption(label, mnemonic), buddy->parentWidget());
+  caption->setBuddy(buddy);
+  return caption;
+}
+
+}  // namespace
+
+LoaderDialog::LoaderDialog(Session& session, QWidget* parent)
+    : QDialog(parent),
+      session_(session),
+      directories_(
+          new DirectoryPicker(QStringLiteral("Drive1"), QStringLiteral("DirListBox"), this)),
+      files_(new QListWidget(this)) {
+  setObjectName(QStringLiteral("frmLoader"));
+  setWindowTitle(QString::fromLatin1(LoaderForm::kCaption));
+  resize(596, 398);
+  files_->setObjectName(QStringLiteral("filesXML"));
+  files_->setAccessibleName(tr("Files"));
+  files_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  BuildLayout();
+  Connect();
+  // The directory that the tree opens with is the one whose files are listed.
+  if (!IsDirectory(session_.loader.DirListBox)) {
+    Do("frmLoader.DirListBox", 0, PathText(QDir::homePath()));
+  } else {
+    Paint();
+  }
+  files_->setFocus();
+}
+
+void LoaderDialog::BuildLayout() {
+  QString hint = QString::fromLatin1(LoaderForm::kHint);
+  auto* hintLabel = new QLabel(hint.replace(QLatin1String("&&"), QLatin1String("&")), this);
+  hintLabel->setProperty("tone", "muted");
+  auto* load = new QPushButton(tr("&Load"), this);
+  load->setObjectName(QStringLiteral("cmdLoad"));
+  load->setDefault(true);
+  auto* cancel = new QPushButton(tr("Cancel"), this);
+  cancel->setObjectName(QStringLiteral("cmdCancel"));
+  cancel->setAutoDefault(false);
+  auto* buttons = new QHBoxLayout;
+  buttons->setSpacing(6);
+  buttons->addWidget(hintLabel, 1);
+  for (QPushButton* button : {load, cancel}) {
+    button->setMinimumSize(91, 30);
+    buttons->addWidget(button);
+  }
+
+  auto* grid = new QGridLayout(this);
+  grid->setContentsMargins(12, 10, 12, 12);
+  grid->setHorizontalSpacing(10);
+  grid->setVerticalSpacing(4);
+  grid->addWidget(LabelFor(directories_->Drives(), LoaderForm::kDrivesLabel, 'v'), 0, 0);
+  grid->addWidget(directories_->Drives(), 1, 0);
+  grid->addWidget(LabelFor(directories_->Tree(), LoaderForm::kDirectoryLabel, 'D'), 2, 0);
+  grid->addWidget(directories_->Tree(), 3, 0);
+  grid->addWidget(LabelFor(files_, LoaderForm::kFilesLabel, 'F'), 0, 1);
+  grid->addWidget(files_, 1, 1, 3, 1);
+  grid->addLayout(buttons, 4, 0, 1, 2);
+  grid->setRowStretch(3, 1);
+  // Both halves are equally wide, whatever their lists hold.
+  for (QWidget* list :
+       {static_cast<QWidget*>(directories_->Drives()), static_cast<QWidget*>(directories_->Tree()),
+        static_cast<QWidget*>(files_)}) {
+    list->setSizePolicy(QSizePolicy::Ignored, list->sizePolicy().verticalPolicy());
+  }
+  grid->setColumnStretch(0, 1);
+  grid->setColumnStretch(1, 1);
+  grid->setRowMinimumHeight(4, 40);
+  setTabOrder(directories_->Drives(), directories_->Tree());
+  setTabOrder(directories_->Tree(), files_);
+  setTabOrder(files_, load);
+  setTabOrder(load, cancel);
+}
+
+void LoaderDialog::Connect() {
+  connect(directories_, &DirectoryPicker::DriveChosen, this,
+          [this](const QString& text) { Do("frmLoader.Drive1", 0, FromQString(text)); });
+  connect(directories_, &DirectoryPicker::DirectoryChosen, this,
+          [this](const QString& directory) { Do("frmLoader.DirListBox", 0, PathText(directory)); });
+  connect(files_, &QListWidget::itemSelectionChanged, this, &LoaderDialog::TakeSelection);
+  connect(files_, &QListWidget::itemDoubleClicked, this, [this] { Do("frmLoader.cmdLoad"); });
+  connect(findChild<QPushButton*>(QStringLiteral("cmdLoad")), &QPushButton::clicked, this,
+          [this] { Do("frmLoader.cmdLoad"); });
+  connect(findChild<QPushButton*>(QStringLiteral("cmdCancel")), &QPushButton::clicked, this,
+          &LoaderDialog::reject);
+}
+
+void LoaderDialog::reject() { Do("frmLoader.cmdCancel"); }
+
+void LoaderDialog::Do(const char* control, int index, const std::string& text) {
+  session_.Do({control, index, text});
+  Paint();
+  if (!session_.loader.open) done(session_.loader.selectionList.empty() ? Rejected : Accepted);
+}
+
+void LoaderDialog::TakeSelection() {
+  if (painting_) return;
+  // The form's list does not change in between, so the rows stay what they are.
+  for (int i = 0; i < files_->count(); ++i) {
+    const bool selected = files_->item(i)->isSelected();
+    if (session_.loader.filesXML[static_cast<std::size_t>(i)].selected == selected) continue;
+    session_.Do({selected ? "frmLoader.filesXML_Select" : "frmLoader.filesXML_Unselect", i, {}});
+  }
+  Paint();
+}
+
+void LoaderDialog::Paint() {
+  directories_->ShowDirectory(session_.loader.DirListBox);
+  PaintFiles();
+}
+
+void LoaderDialog::PaintFiles() {
+  const bool outer = std::exchange(painting_, true);
+  QStringList names;
+  for (const LoaderForm::File& file : session_.loader.filesXML) names += ToQString(file.name);
+  QStringList shown;
+  for (int i = 0; i < files_->count(); ++i) shown += files_->item(i)->text();
+  if (shown != names) {
+    files_->clear();
+    files_->addItems(names);
+  }
+  for (int i = 0; i < files_->count(); ++i) {
+    const bool selected = session_.loader.filesXML[static_cast<std::size_t>(i)].selected;
+    if (files_->item(i)->isSelected() != selected) files_->item(i)->setSelected(selected);
+  }
+  painting_ = outer;
+}
+
+}  // namespace ng

@@ -1,0 +1,180 @@
+#include "ui/dialogs/options_dialog.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#include "app/session.h"
+#include "ui/look/theme.h"
+#include "ui/widgets/directory_picker.h"
+#include "ui/wiring/path_text.h"
+#include "ui/wiring/text.h"
+
+namespace ng {
+namespace {
+
+/// What the directories are for, to whom has not seen the program before.
+QString FirstStartText() {
+  return OptionsDialog::tr(
+      "Welcome. Please say where the character files (*.ng3) lie that you import combatants from, "
+      "and where Forgekit's DATA directory is, with the tables of gear, ranges and skills that the "
+      "import needs.");
+}
+
+/// At the first start the dialog comes before the settings are read, all but the character
+/// directory; later on only the character directory is asked for again and again.
+QString TimeText(OptionsDialog::Occasion occasion) {
+  return occasion == OptionsDialog::Occasion::FirstStart
+             ? OptionsDialog::tr(
+                   "The character directory takes effect at the next start; for today, find the "
+                   "files in the Open dialog. All else takes effect now.")
+             : OptionsDialog::tr(
+                   "The character directory takes effect at once. The tables of the DATA directory "
+                   "are read, and the two switches take effect, at the next start.");
+}
+
+}  // namespace
+
+OptionsDialog::OptionsDialog(Session& session, Occasion occasion, QWidget* parent)
+    : QDialog(parent), session_(session) {
+  setObjectName(QStringLiteral("frmOptions"));
+  setWindowTitle(tr("Options"));
+  resize(720, 470);
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(12, 10, 12, 12);
+  column->setSpacing(8);
+  if (occasion == Occasion::FirstStart) {
+    resize(720, 540);
+    auto* welcome = new QLabel(FirstStartText(), this);
+    welcome->setWordWrap(true);
+    column->addWidget(welcome);
+  }
+  auto* groups = new QHBoxLayout;
+  groups->setSpacing(8);
+  characters_ = AddGroup(*groups, tr("Character directory"), "NG3");
+  data_ = AddGroup(*groups, tr("DATA directory"), "Dat");
+  column->addLayout(groups, 1);
+  column->addWidget(BuildSwitches());
+  auto* time = new QLabel(TimeText(occasion), this);
+  time->setProperty("tone", "muted");
+  time->setWordWrap(true);
+  column->addWidget(time);
+  column->addLayout(BuildButtons());
+  Paint();
+}
+
+OptionsDialog::Group OptionsDialog::AddGroup(QBoxLayout& row, const QString& title,
+                                             const char* word) {
+  const QString suffix = QString::fromLatin1(word);
+  auto* box = new QGroupBox(title, this);
+  auto* picker =
+      new DirectoryPicker(QStringLiteral("drv") + suffix, QStringLiteral("dir") + suffix, box);
+  picker->Tree()->setAccessibleName(title);
+  auto* path = new QLineEdit(box);
+  path->setObjectName(QStringLiteral("txt") + suffix);
+  path->setAccessibleName(title);
+  path->setReadOnly(true);
+  path->setFocusPolicy(Qt::ClickFocus);
+  path->setFont(InterfaceFont(10, true));
+  auto* column = new QVBoxLayout(box);
+  column->setContentsMargins(10, 12, 10, 10);
+  column->setSpacing(6);
+  column->addWidget(picker->Drives());
+  column->addWidget(picker->Tree(), 1);
+  auto* browse = new QPushButton(tr("Browse..."), box);
+  browse->setObjectName(QStringLiteral("cmdBrowse") + suffix);
+  browse->setAccessibleName(tr("%1: browse").arg(title));
+  browse->setToolTip(tr("Pick the directory in the system's own chooser"));
+  browse->setAutoDefault(false);
+  auto* chosen = new QHBoxLayout;
+  chosen->setSpacing(6);
+  chosen->addWidget(path, 1);
+  chosen->addWidget(browse);
+  column->addLayout(chosen);
+  row.addWidget(box, 1);
+
+  const std::string control = "frmOptions.dir" + suffix.toStdString();
+  connect(picker, &DirectoryPicker::DriveChosen, this,
+          [this, control](const QString&, const QString& root) { Do(control, PathText(root)); });
+  connect(picker, &DirectoryPicker::DirectoryChosen, this,
+          [this, control](const QString& directory) { Do(control, PathText(directory)); });
+  connect(browse, &QPushButton::clicked, this, [this, control, title, path] {
+    const QString shown = path->text();
+    const QString from = QFileInfo(shown).isDir() ? shown : QDir::homePath();
+    const QString directory = QFileDialog::getExistingDirectory(this, title, from);
+    if (!directory.isEmpty()) Do(control, PathText(directory));
+  });
+  return {picker, path};
+}
+
+QWidget* OptionsDialog::BuildSwitches() {
+  auto* box = new QGroupBox(tr("Switches"), this);
+  auto* column = new QVBoxLayout(box);
+  column->setContentsMargins(10, 10, 10, 8);
+  column->setSpacing(4);
+  cloneInit_ =
+      AddSwitch(*column, "chkCloneInit", tr("Copies take their original's initiative &roll"));
+  disableRoller_ = AddSwitch(*column, "chkDisableNGDR", tr("Do not &use the dice roller"));
+  return box;
+}
+
+QCheckBox* OptionsDialog::AddSwitch(QBoxLayout& column, const char* name, const QString& text) {
+  auto* box = new QCheckBox(text, this);
+  box->setObjectName(QString::fromLatin1(name));
+  column.addWidget(box);
+  connect(box, &QCheckBox::clicked, this, [this, name] { Do(std::string("frmOptions.") + name); });
+  return box;
+}
+
+QBoxLayout* OptionsDialog::BuildButtons() {
+  auto* ok = new QPushButton(tr("OK"), this);
+  ok->setObjectName(QStringLiteral("cmdOK"));
+  ok->setDefault(true);
+  connect(ok, &QPushButton::clicked, this, [this] { Do("frmOptions.cmdOK"); });
+  auto* cancel = new QPushButton(tr("Cancel"), this);
+  cancel->setObjectName(QStringLiteral("cmdCancel"));
+  cancel->setAutoDefault(false);
+  connect(cancel, &QPushButton::clicked, this, &OptionsDialog::reject);
+  auto* row = new QHBoxLayout;
+  row->setSpacing(6);
+  row->addStretch();
+  for (QPushButton* button : {ok, cancel}) {
+    button->setMinimumSize(91, 30);
+    row->addWidget(button);
+  }
+  return row;
+}
+
+void OptionsDialog::reject() { Do("frmOptions.cmdCancel"); }
+
+void OptionsDialog::Do(const std::string& control, const std::string& text) {
+  session_.Do({control, 0, text});
+  Paint();
+  if (!session_.options.open) done(Accepted);
+}
+
+void OptionsDialog::Paint() {
+  const OptionsForm& form = session_.options;
+  PaintGroup(characters_, form.dirNG3);
+  PaintGroup(data_, form.dirDat);
+  cloneInit_->setChecked(form.chkCloneInit);
+  disableRoller_->setChecked(form.chkDisableNGDR);
+}
+
+void OptionsDialog::PaintGroup(const Group& group, const std::string& directory) {
+  group.picker->ShowDirectory(directory);
+  const QString shown = directory.empty() ? tr("\u2013 none \u2013") : ToQString(directory);
+  if (group.path->text() == shown) return;
+  group.path->setText(shown);
+  // Of a path that is too long the end says more.
+  group.path->end(false);
+}
+
+}  // namespace ng

@@ -1,0 +1,129 @@
+#include "ui/main/header_panel.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include "ui/look/layout_kit.h"
+#include "ui/look/theme.h"
+#include "ui/widgets/elided_label.h"
+
+namespace ng {
+namespace {
+
+constexpr int kHeight = 67;
+constexpr int kBadgeWidth = 86;
+
+/// Wide enough for `sample` in the label's own font, whatever it shows.
+void HoldWidth(QLabel& label, const QString& sample) {
+  label.setFixedWidth(QFontMetrics(label.font()).horizontalAdvance(sample));
+}
+
+}  // namespace
+
+HeaderPanelView::HeaderPanelView(QWidget* parent) : QFrame(parent) {
+  setObjectName(QStringLiteral("headerPanel"));
+  setFrameShape(StyledPanel);
+  setFixedHeight(kHeight);
+  auto* figures = new QVBoxLayout;
+  figures->setSpacing(5);
+  figures->addLayout(BuildInitiative());
+  figures->addLayout(BuildArmour());
+
+  auto* all = new QHBoxLayout(this);
+  all->setContentsMargins(12, 4, 11, 5);
+  all->setSpacing(10);
+  all->addLayout(BuildIdentity(), 1);
+  all->addWidget(MakeLine(Qt::Vertical, this));
+  all->addLayout(figures);
+}
+
+QBoxLayout* HeaderPanelView::BuildIdentity() {
+  auto* name = new ElidedLabel(this);
+  name->setObjectName(QStringLiteral("lblName2"));
+  name->setFont(InterfaceFont(17, true));
+  auto* badge = new QLabel(this);
+  badge->setObjectName(QStringLiteral("lblTurn"));
+  badge->setFrameShape(QFrame::StyledPanel);
+  badge->setFont(InterfaceFont(10, true));
+  badge->setAlignment(Qt::AlignCenter);
+  badge->setFixedSize(kBadgeWidth, 22);
+  badge->setToolTip(tr("Where the combatant stands in the turn"));
+  auto* race = new ElidedLabel(this);
+  race->setObjectName(QStringLiteral("lblRace2"));
+  race->setProperty("tone", "muted");
+
+  QHBoxLayout* second = MakeRow(8);
+  second->addWidget(badge);
+  second->addWidget(race, 1);
+  auto* column = new QVBoxLayout;
+  column->setSpacing(2);
+  column->addWidget(name);
+  column->addLayout(second);
+  return column;
+}
+
+QBoxLayout* HeaderPanelView::BuildInitiative() {
+  QHBoxLayout* row = MakeRow(5);
+  row->addWidget(MakeCaption(tr("Init"), this));
+  AddBox(*row, "txtRRSLT", 44, tr("Rolled initiative"));
+  row->addWidget(MakeCaption(tr("Net"), this));
+  auto* net = new QLabel(this);
+  net->setObjectName(QStringLiteral("lblFRSLT"));
+  net->setFont(InterfaceFont(10, true));
+  net->setToolTip(tr("Initiative less the wound modifier"));
+  HoldWidth(*net, QStringLiteral("-00"));
+  row->addWidget(net);
+  row->addSpacing(4);
+  row->addWidget(MakeCaption(tr("Dice"), this));
+  AddBox(*row, "txtInit_0", 34, tr("Initiative dice, natural"));
+  AddBox(*row, "txtInit_1", 34, tr("Initiative dice, augmented"));
+  row->addSpacing(4);
+  row->addWidget(MakeCaption(tr("React."), this));
+  AddBox(*row, "txtReac_0", 34, tr("Reaction, natural"));
+  AddBox(*row, "txtReac_1", 34, tr("Reaction, augmented"));
+  row->addSpacing(5);
+
+  // The only radio buttons of this panel, so that they exclude one another.
+  int index = 0;
+  for (const QString& text : {tr("Ph&ysical"), tr("&Astral")}) {
+    auto* mode = new QRadioButton(text, this);
+    mode->setObjectName(QStringLiteral("optInitMode_%1").arg(index++));
+    mode->setToolTip(tr("Initiative mode, from the next reroll on"));
+    row->addWidget(mode);
+  }
+  return row;
+}
+
+QBoxLayout* HeaderPanelView::BuildArmour() {
+  struct Slot {
+    const char* name;
+    int width;
+    QString tip;
+  };
+  const Slot slots_[] = {{"lblBAL", 66, tr("BAL: ballistic armour")},
+                         {"lblIMP", 62, tr("IMP: impact armour")},
+                         {"lblQCKmod", 76, tr("QCK: quickness lost to heavy armour")},
+                         {"lblCPmod", 92, tr("CPmod: combat pool lost to heavy armour")},
+                         {"lblLWght", 96, tr("Wgt: weight worn and carried")}};
+  QHBoxLayout* row = MakeRow(5);
+  for (const Slot& slot : slots_) {
+    auto* label = new QLabel(this);
+    label->setObjectName(QString::fromLatin1(slot.name));
+    label->setFont(InterfaceFont(10, true));
+    label->setFixedSize(slot.width, kBoxHeight);
+    label->setToolTip(slot.tip);
+    row->addWidget(label);
+  }
+  row->addStretch();
+  return row;
+}
+
+void HeaderPanelView::AddBox(QBoxLayout& row, const char* objectName, int width,
+                             const QString& name) {
+  QLineEdit* box = MakeBox({QString::fromLatin1(objectName), name, name}, width, this);
+  row.addWidget(box);
+}
+
+}  // namespace ng

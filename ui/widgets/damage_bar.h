@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QWidget>
+
+#include "tracker/fight/player_record.h"
+
+namespace ng {
+
+/// The ten boxes of a damage track, filled from the left. The letters L, M, S and D stand in the
+/// boxes at which a wound level begins, so that the level can be read without the colour.
+class DamageBar : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit DamageBar(Track track, QWidget* parent = nullptr);
+
+  int boxes() const { return boxes_; }
+  /// Filled boxes, 0 to 10; what lies outside counts as the nearer end.
+  void setBoxes(int boxes);
+
+  QSize minimumSizeHint() const override;
+  QSize sizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void Announce();
+
+  Track track_;
+  int boxes_ = 0;
+};
+
+}  // namespace ng

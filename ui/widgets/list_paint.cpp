@@ -1,0 +1,62 @@
+#include "ui/widgets/list_paint.h"
+
+#include <QSignalBlocker>
+#include <QTreeWidget>
+#include <algorithm>
+
+#include "ui/wiring/text.h"
+
+namespace ng {
+namespace {
+
+void ShowLine(QTreeWidgetItem& item, const QTreeWidget& tree, const std::string& line) {
+  const int columns = tree.columnCount();
+  QString rest = ToQString(line);
+  for (int column = 0; column < columns; ++column) {
+    const bool last = column == columns - 1;
+    const qsizetype tab = last ? -1 : rest.indexOf(QLatin1Char('\t'));
+    QString text = tab < 0 ? rest : rest.left(tab);
+    rest = tab < 0 ? QString() : rest.mid(tab + 1);
+    text.replace(QLatin1Char('\t'), QLatin1String("  "));
+    // Names that are padded to a width would be elided for their blanks.
+    while (text.endsWith(QLatin1Char(' '))) text.chop(1);
+    item.setText(column, text);
+    item.setToolTip(column, text);
+    item.setTextAlignment(column, Qt::Alignment::fromInt(tree.headerItem()->textAlignment(column)));
+  }
+}
+
+}  // namespace
+
+void ShowLines(QTreeWidget& tree, const std::vector<std::string>& lines) {
+  tree.clear();
+  QList<QTreeWidgetItem*> items;
+  items.reserve(static_cast<qsizetype>(lines.size()));
+  for (const std::string& line : lines) {
+    auto* item = new QTreeWidgetItem;
+    ShowLine(*item, tree, line);
+    items.append(item);
+  }
+  tree.addTopLevelItems(items);
+}
+
+void ShowMarks(QTreeWidget& tree, const std::vector<CarriedLine>& lines) {
+  const int count = std::min(tree.topLevelItemCount(), static_cast<int>(lines.size()));
+  for (int i = 0; i < count; ++i) {
+    QTreeWidgetItem* item = tree.topLevelItem(i);
+    const bool carried = lines[static_cast<std::size_t>(i)].carried;
+    const Qt::CheckState state = carried ? Qt::Checked : Qt::Unchecked;
+    const QVariant shown = item->data(0, Qt::CheckStateRole);
+    if (!shown.isValid() || item->checkState(0) != state) item->setCheckState(0, state);
+  }
+}
+
+void ShowSelection(QTreeWidget& tree, int line) {
+  const QList<QTreeWidgetItem*> selected = tree.selectedItems();
+  const int shown = selected.isEmpty() ? -1 : tree.indexOfTopLevelItem(selected.constFirst());
+  if (shown == line) return;
+  const QSignalBlocker quiet(tree);
+  tree.setCurrentItem(tree.topLevelItem(line));
+}
+
+}  // namespace ng

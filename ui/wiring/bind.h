@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QMultiHash>
+#include <QObject>
+#include <QPointer>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "app/controls.h"
+#include "ui/wiring/acts.h"
+
+class QWidget;
+
+namespace ng {
+
+/// Paints a window from what the controls of its form show, and turns what the user does to the
+/// widgets into acts. A widget carries its control's name as object name, with "_" and the index
+/// behind it where it is an element of a control array; a copy of it elsewhere in the window has a
+/// "2" behind the name. A control without a widget is passed over.
+class Binder : public QObject, private ControlVisitor {
+ public:
+  /// The window must hold all its widgets already. `prefix` stands before the widgets' names in the
+  /// acts.
+  Binder(QWidget& window, const Perform& perform, std::string prefix = {});
+
+  /// Paints what the walk says. All walks must go through the same controls in the same order: the
+  /// first one looks the widgets up by their names, the later ones know them by their place.
+  void Paint(const std::function<void(ControlVisitor&)>& walk);
+
+ private:
+  struct Place {
+    std::vector<QObject*> widgets;
+    /// What a list shows, as the form said it.
+    std::vector<std::string> lines;
+    /// What a damage bar shows.
+    int level = -1;
+  };
+
+  void Text(ControlName control, const std::string& text) override;
+  void Check(ControlName control, bool checked) override;
+  void Choice(ControlName control, int chosen) override;
+  void Level(ControlName control, int boxes) override;
+  void List(ControlName control, const std::vector<std::string>& lines) override;
+  void CheckList(ControlName control, const std::vector<CarriedLine>& lines) override;
+  void Grid(ControlName control, const InitiativeGrid& grid) override;
+
+  using Lookup = std::vector<QObject*> (Binder::*)(const ControlName&) const;
+  Place& NextPlace(const ControlName& control, Lookup lookup);
+  std::vector<QObject*> Named(const ControlName& control) const;
+  std::vector<QObject*> Options(const ControlName& control) const;
+  void IndexNames();
+
+  QWidget& window_;
+  std::string prefix_;
+  /// Filled for the first walk only.
+  QMultiHash<QString, QObject*> byName_;
+  std::vector<Place> places_;
+  std::size_t place_ = 0;
+  bool painting_ = false;
+};
+
+}  // namespace ng
