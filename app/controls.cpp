@@ -146,12 +146,12 @@ std::string WhoRolls(const MainForm& form) {
 
 void VisitRollerControls(const MainForm& form, ControlVisitor& visitor) {
   const DiceRoller& roller = form.ngdr;
-  const PlayerRecord& record = form.fight.Players[form.fight.CurrentPCpointer];
+  const PlayerRecord& record = form.fight.Players[roller.Tester()];
   visitor.Text({"lblName"}, WhoRolls(form));
   visitor.Text({"lblSkill"}, std::string(Piece(roller.lblSkill, '\t', 0)));
   visitor.Text({"lblDamageCode"}, roller.DamageCode);
   visitor.Text({"lblBulletCount"}, PlainText(roller.BulletCount));
-  visitor.Text({"lblBody"}, roller.Body);
+  visitor.Text({"lblBody"}, roller.BodyOfTest());
   visitor.Text({"lblArmour"}, PlainText(record.ArmorBAL) + " / " + PlainText(record.ArmorIMP));
   visitor.Choice({"tabTest"}, static_cast<int>(roller.tabTest));
   visitor.Text({"lblBase"}, roller.BaseCaption());

@@ -140,7 +140,7 @@ void FightFiles::ImportCharacters(const std::vector<std::string>& names) {
 void FightFiles::ImportOne(const std::string& name) {
   form_.StoreSheet();
   form_.XFerPC(LoadCharacterFile(TargetOf(form_, environment_), name));
-  form_.RecalcArmor();
+  form_.ShowDerivedArmour();
 }
 
 void FightFiles::OpenFiles(const std::vector<std::string>& paths) {
@@ -190,6 +190,7 @@ void FightFiles::LoadState() {
 void FightFiles::LoadState(const std::string& path) {
   const ProfileFile file(environment_.files.ReadWhole(path));
   form_.StoreSheet();
+  form_.ngdr.EndTest();
   try {
     Restoring host(form_, environment_, CombatantsIn(file));
     ReadStateFile(file, form_.fight, host);

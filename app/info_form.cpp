@@ -12,13 +12,13 @@ namespace {
 /// What the columns behind the name hold, for lines that the gear table tells nothing about.
 struct ListColumns {
   SheetList list;
-  std::array<const char*, 5> names;
+  std::array<std::string_view, 5> names;
 };
 constexpr std::array<ListColumns, 6> kColumns = {{
     {SheetList::Weapon, {"Damage", "Concealability", "Figures", "Ammunition", "Weight"}},
     {SheetList::Armor, {"Concealability", "Ballistic", "Impact", "Weight"}},
-    {SheetList::Active, {"Rating"}},
-    {SheetList::Other, {"Rating"}},
+    {SheetList::Active, {"Rating", "Kind"}},
+    {SheetList::Other, {"Rating", "Kind"}},
     {SheetList::Edges, {"Points"}},
     {SheetList::Contacts, {"Level"}},
 }};
@@ -96,10 +96,13 @@ void InfoForm::FillFigures(const std::string& line) {
 void InfoForm::FillColumns(const std::string& line) {
   const auto* const columns = std::ranges::find(kColumns, list_, &ListColumns::list);
   if (columns == kColumns.end()) return;
-  int column = 0;
-  for (const char* name : columns->names) {
-    const std::string_view value = Piece(line, '\t', ++column);
-    if (!value.empty()) lstFigures.push_back(Row(name, value));
+  const std::vector<std::string_view> values = Split(line, '\t');
+  for (std::size_t column = 1; column < values.size(); ++column) {
+    if (values[column].empty()) continue;
+    const bool named = column <= columns->names.size() && !columns->names[column - 1].empty();
+    // A file may hold more than the list is made for.
+    lstFigures.push_back(named ? Row(columns->names[column - 1], values[column])
+                               : Row("Column " + std::to_string(column + 1), values[column]));
   }
 }
 

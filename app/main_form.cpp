@@ -51,10 +51,8 @@ MainForm::MainForm(Environment& environment, LoaderForm& loader, OptionsForm& op
       sequencer(fight, GridX, environment.uniform, environment.prompts, *this),
       actions(fight, characters, GridX, sequencer, gmLog, environment.prompts, *this),
       damageMonitor(fight, damage, sequencer),
-      ngdr(
-          fight, environment.uniform, environment.prompts,
-          [this](Slot slot, Integer left) { SpendPool(slot, left); },
-          [this](Weapon weapon) { return WieldsInMelee(weapon); }),
+      ngdr(fight, environment.uniform, environment.prompts, *this,
+           [this](Slot slot, Integer left) { SpendPool(slot, left); }),
       firing(fight, characters, weapons, ngdr, gmLog, environment.prompts, environment.settings),
       skillTests(fight, firing, ngdr, skillLevel, environment.prompts, environment.settings),
       fightFiles(*this, environment),
@@ -139,8 +137,6 @@ void MainForm::mnuTReset() {
 void MainForm::mnuTNext() {
   SyncSheet();
   sequencer.Next();
-  // Where the step displayed nobody, the boxes still stand and firing goes on from them.
-  firing.TakeRoundCounters();
 }
 
 void MainForm::mnuTPrev() { sequencer.Previous(); }
@@ -169,7 +165,6 @@ void MainForm::mnuPRocket() {
 }
 
 void MainForm::mnuPMult() {
-  SyncSheet();
   Integer asked;
   const Integer made = actions.Multiply(asked);
   if (asked == 0) return;
@@ -222,10 +217,20 @@ void MainForm::ShowRoller() {
   ngdr.visible = true;
 }
 
-bool MainForm::WieldsInMelee(Weapon weapon) const {
-  const PlayerRecord& record = fight.Players[fight.CurrentPCpointer];
-  return IsMeleeWeaponType(ConvertSkill(
-      skillTable, weapon == Weapon::Primary ? record.SkillPrimaryName : record.SkillSecondaryName));
+bool MainForm::WieldsInMelee(const PlayerRecord& combatant, Weapon weapon) const {
+  return IsMeleeWeaponType(ConvertSkill(skillTable, combatant.*FieldsOf(weapon).skillName));
+}
+
+Integer MainForm::WeaponModifier(const PlayerRecord& combatant, Weapon weapon) const {
+  return firing.TotalsOf(combatant)[static_cast<std::size_t>(weapon)];
+}
+
+void MainForm::FollowTest() {
+  try {
+    ngdr.Follow();
+  } catch (const RuntimeError&) {
+    return;
+  }
 }
 
 void MainForm::ShowRestored(Slot slot) {
@@ -237,7 +242,9 @@ void MainForm::ShowRestored(Slot slot) {
     }
   }
   GridX.RefreshGrid();
-  XFerPC(slot);
+  // A load that broke off may have left any number.
+  const bool held = slot > 0 && slot <= Fight::kLastSlot;
+  XFerPC(held ? slot : Slot(0));
 }
 
 void MainForm::tabMain_Click(int page) {
@@ -262,7 +269,6 @@ void MainForm::XFerPC(Slot slot) {
   actions.delayChecked = static_cast<bool>(record.Delay);
   actions.inactiveChecked = static_cast<bool>(record.inactive);
   // Numbers out of range can end these, so that all else is shown by now.
-  firing.TakeRoundCounters();
   firing.UpdateWeaponModifiers();
 }
 
@@ -270,10 +276,11 @@ void MainForm::RecalcArmor() {
   if (!Displaying()) return;
   const CharacterEntry* entry = characters.Of(Displayed());
   if (entry == nullptr) return;
-  const ArmourFigures figures = DeriveArmour(*entry);
-  StoreArmour(Displayed(), figures);
-  sheet.ShowFigures(figures);
+  StoreArmour(Displayed(), DeriveArmour(*entry));
+  ShowDerivedArmour();
 }
+
+void MainForm::ShowDerivedArmour() { sheet.ShowFigures(ArmourOf(Displayed())); }
 
 void MainForm::SyncSheet() {
   if (!Displaying()) return;
@@ -286,8 +293,6 @@ void MainForm::SyncSheet() {
 
 void MainForm::RefreshPools() { ng::RefreshPools(fight, characters); }
 
-void MainForm::ZeroRoundCounters() { firing.ZeroRoundCounters(); }
-
 std::string MainForm::TurnBadge() const {
   if (!Displaying()) return "\x96";
   const PlayerRecord& record = fight.Players[fight.CurrentPCpointer];
@@ -299,7 +304,7 @@ std::string MainForm::TurnBadge() const {
 std::string MainForm::RoundsLeft(Weapon weapon) const {
   if (weapons.lblAmmo[static_cast<std::size_t>(weapon)].empty()) return {};
   try {
-    return PlainText(firing.AmmoLeft(weapon));
+    return PlainText(AmmoLeft(fight.Players[fight.CurrentPCpointer], weapon));
   } catch (const RuntimeError&) {
     // The window is painted outside every command: a number that cannot be counted is not shown.
     return {};

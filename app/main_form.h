@@ -64,7 +64,7 @@ struct HeaderPanel {
 
 /// The main window without the toolkit: the fight, the panels that show the displayed combatant,
 /// and the commands.
-class MainForm : private SequencerHost {
+class MainForm : private SequencerHost, private DiceRoller::Weapons {
  public:
   MainForm(Environment& environment, LoaderForm& loader, OptionsForm& options);
 
@@ -203,11 +203,17 @@ class MainForm : private SequencerHost {
   void XFerPC(Slot slot) override;
   /// The armour and weight derivation for the displayed combatant.
   void RecalcArmor();
+  /// Shows the armour of the displayed record as RecalcArmor does, for one that was just derived.
+  void ShowDerivedArmour();
 
   /// Stores what is on the sheet into the displayed record.
   void StoreSheet() { SyncSheet(); }
   /// Shows a fight that was read over this one, and this combatant of it.
   void ShowRestored(Slot slot);
+
+  /// To be called when a command has run: the open test follows its combatant. Numbers that cannot
+  /// be added up leave it as it is; they were told when the combatant was displayed.
+  void FollowTest();
 
   // What the window shows beside the controls.
   /// "On turn", "Delayed", "Inactive" or "Waiting"; a dash with nobody displayed.
@@ -220,7 +226,6 @@ class MainForm : private SequencerHost {
  private:
   void SyncSheet() override;
   void RefreshPools() override;
-  void ZeroRoundCounters() override;
 
   bool Displaying() const { return fight.CurrentPCpointer != 0; }
   PlayerRecord& Displayed() { return fight.Players[fight.CurrentPCpointer]; }
@@ -231,7 +236,8 @@ class MainForm : private SequencerHost {
   void UpdateWeapons();
   /// Takes over the combat pool that a test left of a combatant.
   void SpendPool(Slot slot, Integer left);
-  bool WieldsInMelee(Weapon weapon) const;
+  bool WieldsInMelee(const PlayerRecord& combatant, Weapon weapon) const override;
+  Integer WeaponModifier(const PlayerRecord& combatant, Weapon weapon) const override;
   void ToggleCarried(std::vector<CarriedLine> CharacterEntry::*list, int index);
 
   Environment& environment_;

@@ -42,7 +42,6 @@ void MainForm::WeaponBox_Change(std::string& box, const std::string& text) {
   if (!Displaying()) return;
   LenientInteger(text);
   box = text;
-  firing.TakeRoundCounters();
   UpdateWeapons();
 }
 

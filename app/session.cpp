@@ -24,7 +24,7 @@ void Session::Do(const Act& act) {
   } catch (const RuntimeError& error) {
     environment.prompts.Message(error.what());
   }
-  main.ngdr.FollowPool();
+  main.FollowTest();
 }
 
 }  // namespace ng

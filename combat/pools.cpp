@@ -21,11 +21,14 @@ constexpr std::array<Pool, 5> kPools = {{
     {&PoolPanel::txtKP, &PlayerRecord::KP},
 }};
 
-/// Moves one die between two boxes, when there is one.
+/// Moves one die between two boxes, when there is one. Overflow, with neither box changed, where
+/// the pool it goes to is full.
 void MoveDie(std::string& from, std::string& to) {
   if (LeadingNumber(from) < 1) return;
+  const std::string more = IncPool(to);
+  LenientInteger(more);
   from = DecPool(from);
-  to = IncPool(to);
+  to = more;
 }
 
 }  // namespace

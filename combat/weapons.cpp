@@ -61,6 +61,19 @@ constexpr PerWeapon<std::size_t> kBoth = {0, 1};
 
 }  // namespace
 
+const HandFields& FieldsOf(Weapon weapon) {
+  using R = PlayerRecord;
+  static constexpr PerWeapon<HandFields> kFields = {{
+      {&R::PrimHand, &R::PrimWeapStatDamage, &R::PrimWeapStatAmmo, &R::PrimAmmo, &R::TBTTPrim,
+       &R::RCPrim, &R::GyroPrim, &R::SmLPrim, &R::LaserPrim, &R::SmtGogPrim, &R::SkillPrimaryName,
+       &R::SkillPrimaryValue, &R::RangeSelPrim},
+      {&R::SecHand, &R::SecWeapStatDamage, &R::SecWeapStatAmmo, &R::SecAmmo, &R::TBTTSec, &R::RCSec,
+       &R::GyroSec, &R::SmLSec, &R::LaserSec, &R::SmtGogSec, &R::SkillSecondaryName,
+       &R::SkillSecondaryValue, &R::RangeSelSec},
+  }};
+  return kFields[static_cast<std::size_t>(weapon)];
+}
+
 void SetWeapon(PlayerRecord& record, Weapon weapon, const WeaponFigures& figures) {
   const auto w = static_cast<std::size_t>(weapon);
   record.*kHands[w] = figures.caption;

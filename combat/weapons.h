@@ -15,6 +15,27 @@ using PerWeapon = std::array<T, 2>;
 /// The four range brackets.
 constexpr std::size_t kRanges = 4;
 
+/// The record's fields of one hand.
+struct HandFields {
+  std::string PlayerRecord::*caption;
+  std::string PlayerRecord::*damage;
+  /// Magazine text ("30(c)").
+  std::string PlayerRecord::*ammunition;
+  /// Rounds fired since the last reload, and in this turn.
+  std::string PlayerRecord::*shots;
+  std::string PlayerRecord::*roundsThisTurn;
+  std::string PlayerRecord::*recoilCompensation;
+  std::string PlayerRecord::*gyro;
+  Integer PlayerRecord::*smartlink;
+  Integer PlayerRecord::*laserSight;
+  Integer PlayerRecord::*smartGoggles;
+  std::string PlayerRecord::*skillName;
+  Integer PlayerRecord::*skillValue;
+  /// 0 short to 3 extreme.
+  Integer PlayerRecord::*range;
+};
+const HandFields& FieldsOf(Weapon weapon);
+
 /// What a weapon in the hand is described by.
 struct WeaponFigures {
   std::string caption;

@@ -73,6 +73,11 @@ ArmourFigures DeriveArmour(const CharacterEntry& entry) {
   return figures;
 }
 
+ArmourFigures ArmourOf(const PlayerRecord& record) {
+  return {record.ArmorBAL, record.ArmorIMP, record.ArmorCPmod, record.ArmorQCKmod,
+          LeadingNumber(record.LastWeight)};
+}
+
 void StoreArmour(PlayerRecord& record, const ArmourFigures& figures) {
   record.ArmorBAL = figures.ballistic;
   record.ArmorIMP = figures.impact;

@@ -113,6 +113,8 @@ Integer Actions::Multiply(Integer& asked) {
     return 0;
   }
   asked = n;
+  // Copies take what is on the sheet.
+  host_.SyncSheet();
   int made = 0;
   for (; made < n; ++made) {
     const Slot free = fight_.FindFreeSlot();
@@ -150,9 +152,10 @@ void Actions::RemovePlayer(Slot slot) {
     fight_.Players[slot] = PlayerRecord{};
   }
   RebuildOrder();
-  sequencer_.SortInitiative();
+  // Nobody is displayed and the row is gone even where the sort ends in Overflow.
   host_.XFerPC(0);
   grid_.RefreshGrid();
+  sequencer_.SortInitiative();
 }
 
 /// Frees the sheet's place for a later import when this was the last combatant that used it.

@@ -28,7 +28,7 @@ void InitiativeGrid::PaintRowGreen(OrderPosition row) {
 }
 
 void InitiativeGrid::Paint(OrderPosition row, Colour colour) {
-  if (row == 0 || row > RowCount()) return;
+  if (row < 1 || row > RowCount()) return;
   rows_[static_cast<std::size_t>(row.Value())].colour.fill(colour);
 }
 

@@ -38,7 +38,8 @@ class InitiativeGrid {
   int CurrentRow() const { return currentRow_; }
   int CurrentColumn() const { return currentColumn_; }
 
-  /// Paint every column of a row. Row 0 is left alone, and so is a row beyond the last combatant.
+  /// Paint every column of a row. Row 0 is left alone, and so is a row that the grid does not have:
+  /// after a removal or a load the remembered green row may be any number.
   void PaintRowWhite(OrderPosition row) { Paint(row, Colour::White); }
   void PaintRowGreen(OrderPosition row);
   void PaintRowYellow(OrderPosition row) { Paint(row, Colour::Yellow); }

@@ -3,6 +3,7 @@
 #include "base/number_text.h"
 #include "base/random_int.h"
 #include "base/text.h"
+#include "tracker/turn.h"
 
 namespace ng {
 namespace {
@@ -38,7 +39,7 @@ void Sequencer::SortInitiative() {
   for (int slot = 1; slot <= n; ++slot) {
     PlayerRecord& record = fight_.Players[slot];
     record.FRSLT = record.RRSLT - record.TNDamMod;
-    if (record.CurDamPhysical >= 10 || record.CurDamStun >= 10) {
+    if (IsOutOfFight(record)) {
       record.RRSLT = 0;
       record.FRSLT = 0;
     }
@@ -103,7 +104,6 @@ void Sequencer::Reset() {
 void Sequencer::Next() {
   fight_.SeqNum += 1;
   fight_.grenadeCnt = 0;
-  host_.ZeroRoundCounters();
   const Integer n = fight_.CountPlayers();
   if (n == 0) return;
   if (!ReplayRecordedStep()) Scan(n);
@@ -155,13 +155,15 @@ Sequencer::Look Sequencer::LookAtCurrent() {
     record.Events.clear();
   }
   if (record.TurnDone) return Look::GoOn;
+  // Before every look and not once a step: the sheet of a displayed combatant whose counts were
+  // just cleared, and who does not act, goes over them.
   host_.SyncSheet();
   if (!record.Resumed) {
     record.TBTTPrim = "0";
     record.TBTTSec = "0";
   }
   if (record.Delay) return Look::Delayed;
-  if (record.FRSLT - (fight_.PhaseCnt - 1) * kPassWidth <= 0) return Look::GoOn;
+  if (!HasActionLeft(fight_, slot)) return Look::GoOn;
   record.TurnDone = true;
   RecordStep(slot);
   PaintTurn(fight_.LTurn);

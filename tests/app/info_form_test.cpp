@@ -41,6 +41,7 @@ TEST(InfoForm, ShowsEveryFigureOfTheMarkedLineAndItsEntry) {
   };
   const Case cases[] = {{"lstWeapon_Select", 0, "Unarmed combat", "Damage\t(STR)M Stun", true},
                         {"lstEdges_Select", 0, "Ambidexterity-4", "Points\t4", true},
+                        {"lstOther_Select", 0, "Harbour slang", "Kind\t(LAN)", false},
                         {"lstContacts_Select", 2, "Sister Anneke", "Level\t3", false}};
   for (const Case& c : cases) {
     program.Do(c.select, c.line);

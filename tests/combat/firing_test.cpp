@@ -242,6 +242,61 @@ TEST_F(FiringTest, DiceInATestStayTheirOwners) {
   EXPECT_EQ(main.pools.txtCP, std::to_string(before - 2));
 }
 
+TEST_F(FiringTest, AnOpenTestIsItsShootersWhoeverIsDisplayed) {
+  const auto test = [this] {
+    std::string boxes = roller.txtTargetNum + "|" + roller.lblSum + "|" + roller.txtNumDice + "|" +
+                        roller.BaseCaption() + "|" + roller.BodyOfTest() + "|" + roller.DamageCode;
+    for (const std::string& box : roller.board.txtRVar) boxes += "|" + box;
+    return boxes;
+  };
+  PlayerRecord& birch = program.fight.Players[2];
+  birch.TNDamMod = 3;
+  birch.natLowLight = true;
+  birch.RangeSelPrim = 3;
+  birch.SkillWeapType = 2;
+  Choose("cmdSkillSecondary", 0, specialisation);
+  Ready("cmdSetSecond", 0);
+  program.Do("optRangeSel", 5);
+  program.Do("cmdShots3", 1);
+  program.Do("ngdr.cmbVisability", 1);
+  program.Do("ngdr.txtTargetNum", 0, "11");
+  const std::string shot = test();
+  program.Do("GridX_Click", 2);
+  for (const char* act : {"chkSmL", "cmdMDam", "cmdIncrease", "chkTwoGuns"}) program.Do(act, 0);
+  program.Do("optRangeSel", 3);
+  EXPECT_EQ(test(), shot);
+  program.Do("GridX_Click", 1);
+  EXPECT_EQ(test(), shot);
+  // The shooter's own wounds count, and they are not the displayed combatant's.
+  program.Do("cmdLDam", 0);
+  EXPECT_EQ(roller.lblSum, "Base 5  +  modifiers 6  =  11");
+  program.Do("cmdLDam", 1);
+  program.Do("GridX_Click", 2);
+  EXPECT_EQ(roller.lblSum, "Base 5  +  modifiers 7  =  12");
+  // With the roll, or with the shooter, the test is over.
+  program.uniform.RepeatFace(2);
+  program.Do("ngdr.cmdRoll");
+  EXPECT_NE(test(), shot);
+  EXPECT_EQ(roller.Tester(), program.fight.CurrentPCpointer);
+  program.Do("GridX_Click", 1);
+  program.Do("cmdShots1", 1);
+  program.Do("mnuPRemove");
+  EXPECT_EQ(roller.Tester(), 0);
+}
+
+TEST_F(FiringTest, ASheetThatIsNotShownAgainGoesOverTheClearedCounts) {
+  // Ash, without a score, is looked at before Birch acts again: the count is cleared, and the sheet
+  // that still shows three rounds is stored before the look at Birch.
+  ash.RRSLT = 0;
+  program.Do("mnuTReset");
+  program.Do("mnuTNext");
+  program.Do("GridX_Click", 2);
+  program.Do("txtTBTT", 0, "3");
+  program.Do("mnuTNext");
+  EXPECT_EQ(program.fight.CurrentPCpointer, 2);
+  EXPECT_EQ(ash.TBTTPrim, "3");
+}
+
 TEST_F(FiringTest, WoundsCountForADodgeOnceAsked) {
   program.Do("GridX_Click", 2);
   program.Do("cmdLDam", 0);

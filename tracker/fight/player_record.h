@@ -155,6 +155,16 @@ struct PlayerRecord {
   friend bool operator==(const PlayerRecord&, const PlayerRecord&) = default;
 };
 
+/// Boxes of a track. A full physical track is dying, a full stun track unconscious.
+constexpr int kTrackBoxes = 10;
+
+inline bool IsDying(const PlayerRecord& record) { return record.CurDamPhysical >= kTrackBoxes; }
+inline bool IsUnconscious(const PlayerRecord& record) { return record.CurDamStun >= kTrackBoxes; }
+/// Either takes the combatant out of initiative.
+inline bool IsOutOfFight(const PlayerRecord& record) {
+  return IsDying(record) || IsUnconscious(record);
+}
+
 /// A field of the record with its name, for those who go through all of them.
 struct PlayerField {
   using Member = std::variant<std::string PlayerRecord::*, Integer PlayerRecord::*,
