@@ -1,7 +1,5 @@
 #include "combat/damage_monitor.h"
 
-#include <algorithm>
-
 #include "base/number_text.h"
 
 namespace ng {
@@ -30,8 +28,7 @@ std::string ConditionCode(const PlayerRecord& record) {
 }
 
 void DamagePanel::Show(const PlayerRecord& record) {
-  arPBDamage = {std::min<Integer>(record.CurDamPhysical, kBoxes),
-                std::min<Integer>(record.CurDamStun, kBoxes)};
+  arPBDamage = {AtMost(record.CurDamPhysical, kBoxes), AtMost(record.CurDamStun, kBoxes)};
   lblPDam = PlainText(record.CurDamPhysical);
   lblSDam = PlainText(record.CurDamStun);
   lblOverDamage = record.CurDamPhysical > kBoxes ? PlainText(record.CurDamPhysical - kBoxes) : "0";
@@ -60,7 +57,7 @@ Integer TakePain(Integer boxes, Integer& pain) {
 
 /// The part of the wound modifier that comes from one track, 0 to 3.
 Integer ModifierStep(Track track, Integer boxes, Integer& pain) {
-  const Integer shown = std::min<Integer>(boxes, DamagePanel::kBoxes);
+  const Integer shown = AtMost(boxes, DamagePanel::kBoxes);
   return LevelOf(track, TakePain(shown, pain)).modifierStep;
 }
 
@@ -72,7 +69,7 @@ void DamageMonitor::ApplyDamage(Track track, Integer& amount) {
   const bool dying = record.CurDamPhysical >= DamagePanel::kBoxes;
   if (track == Track::Physical && dying && amount > 0) amount = 1;
   Integer& boxes = track == Track::Physical ? record.CurDamPhysical : record.CurDamStun;
-  boxes = std::max<Integer>(boxes + amount, 0);
+  boxes = AtLeast(boxes + amount, 0);
   UpdateDamageDisplay();
 }
 
