@@ -118,7 +118,6 @@ class Restoring : public StateFileHost {
 void FightFiles::ImportCharacters(const std::vector<std::string>& names) {
   Integer imported;
   const auto finish = [&] {
-    form_.fight.CountPlayers();
     form_.GridX.RefreshGrid();
     form_.statusMessage = Counted(imported, "character") + " imported";
   };
@@ -165,6 +164,7 @@ bool FightFiles::SaveState() {
       {"Save State File", kStateFilter, environment_.location.directory, "ngt"});
   if (!path || path->empty()) return false;
   form_.StoreSheet();
+  form_.fight.Recount();
   environment_.files.Replace(*path, StateFileText(form_.fight));
   saved_ = form_.fight;
   form_.statusMessage = "Fight saved";
@@ -199,7 +199,7 @@ void FightFiles::LoadState(const std::string& path) {
     form_.ShowRestored(form_.fight.CurrentPCpointer);
     throw;
   }
-  form_.ShowRestored(form_.fight.CountPlayers());
+  form_.ShowRestored(Slot::From(form_.fight.CountPlayers()));
   const OrderPosition turn = form_.fight.LTurn;
   form_.sequencer.Reset();
   form_.sequencer.TakeUpTurn(turn);

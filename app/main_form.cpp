@@ -189,7 +189,7 @@ void MainForm::mnuHelpAbout() { environment_.prompts.ShowModal(ModalForm::About)
 void MainForm::GridX_Click(int row) {
   if (row < 1 || row > GridX.RowCount()) return;
   SyncSheet();
-  XFerPC(fight.InitOrder[row]);
+  XFerPC(fight.InitOrder[OrderPosition::From(row)]);
   GridX.SetCurrent(row, InitiativeGrid::kRollColumn);
 }
 
@@ -197,7 +197,7 @@ void MainForm::GridX_Cell(int row, int column) { GridX.SetCurrent(row, column); 
 
 void MainForm::GridX_KeyPress(int code) {
   if (!GridX.TypeCharacter(code)) return;
-  const Slot slot = fight.InitOrder[GridX.CurrentRow()];
+  const Slot slot = fight.InitOrder[OrderPosition::From(GridX.CurrentRow())];
   if (slot == 0) return;
   const auto& text = GridX.RowAt(GridX.CurrentRow()).text;
   PlayerRecord& record = fight.Players[slot];
@@ -234,8 +234,9 @@ void MainForm::FollowTest() {
 }
 
 void MainForm::ShowRestored(Slot slot) {
-  for (int i = 1; i <= Fight::kLastSlot; ++i) {
-    PlayerRecord& record = fight.Players[i];
+  fight.Recount();
+  for (const Slot restored : AllSlots()) {
+    PlayerRecord& record = fight.Players[restored];
     // The file holds the boxes, not the code that the grid shows for them.
     if (record.CurDamPhysical != 0 || record.CurDamStun != 0) {
       record.CondCode = ConditionCode(record);

@@ -1,7 +1,5 @@
 #include "combat/damage_monitor.h"
 
-#include <algorithm>
-
 #include "base/number_text.h"
 
 namespace ng {
@@ -13,8 +11,7 @@ void DamagePanel::Show(const PlayerRecord& record) {
 }
 
 void DamagePanel::ShowTracks(const PlayerRecord& record) {
-  arPBDamage = {std::min<Integer>(record.CurDamPhysical, kTrackBoxes),
-                std::min<Integer>(record.CurDamStun, kTrackBoxes)};
+  arPBDamage = {AtMost(record.CurDamPhysical, kTrackBoxes), AtMost(record.CurDamStun, kTrackBoxes)};
   lblPDam = PlainText(record.CurDamPhysical);
   lblSDam = PlainText(record.CurDamStun);
   lblOverDamage = IsDying(record) ? PlainText(record.CurDamPhysical - kTrackBoxes) : "0";

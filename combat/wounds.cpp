@@ -1,6 +1,5 @@
 #include "combat/wounds.h"
 
-#include <algorithm>
 #include <array>
 
 namespace ng {
@@ -19,7 +18,7 @@ Integer TakePain(Integer boxes, Integer& pain) {
 
 /// The part of the wound modifier that comes from one track, 0 to 3.
 Integer ModifierStep(Track track, Integer boxes, Integer& pain) {
-  const Integer shown = std::min<Integer>(boxes, kTrackBoxes);
+  const Integer shown = AtMost(boxes, kTrackBoxes);
   return LevelOf(track, TakePain(shown, pain)).modifierStep;
 }
 
@@ -55,7 +54,7 @@ Integer& BoxesOn(PlayerRecord& record, Track track) {
 void AddBoxes(PlayerRecord& record, Track track, Integer& amount) {
   if (track == Track::Physical && IsDying(record) && amount > 0) amount = 1;
   Integer& boxes = BoxesOn(record, track);
-  boxes = std::max<Integer>(boxes + amount, 0);
+  boxes = AtLeast(boxes + amount, 0);
 }
 
 void SettleTracks(PlayerRecord& record) {

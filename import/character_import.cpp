@@ -13,10 +13,9 @@ namespace ng {
 namespace {
 
 /// How many combatants came from this file already.
-Integer EarlierImports(Fight& fight, const std::string& fullName) {
-  const Integer n = fight.CountPlayers();
+Integer EarlierImports(const Fight& fight, const std::string& fullName) {
   Integer count;
-  for (int slot = 1; slot <= n; ++slot) {
+  for (const Slot slot : SlotsUpTo(fight.CountPlayers())) {
     if (fight.Players[slot].Filename == fullName) count += 1;
   }
   return count;
@@ -61,9 +60,11 @@ void TakeSlot(Fight& fight, Slot slot, PlayerRecord record) {
   const Integer earlier = EarlierImports(fight, record.Filename);
   if (earlier > 0) record.Name += "::" + PlainText(earlier);
   fight.Players[slot] = std::move(record);
+  fight.Recount();
   // A nameless combatant is not counted and so stands in no place of the order.
-  const OrderPosition last = fight.CountPlayers();
-  if (!fight.Players[slot].Name.empty()) fight.InitOrder[last] = slot;
+  if (!fight.Players[slot].Name.empty()) {
+    fight.InitOrder[OrderPosition::From(fight.NumPlayers)] = slot;
+  }
 }
 
 }  // namespace

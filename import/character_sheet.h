@@ -82,7 +82,7 @@ struct CharacterEntry {
 
 /// The imported sheets, 1 to 50; a place whose `Filename` is empty is free.
 struct CharacterTable {
-  FixedTable<CharacterEntry, 50> entries;
+  FixedTable<CharacterEntry, 50, CharacterIndex> entries;
 
   /// The first free place; Subscript out of range when all 50 are taken.
   CharacterIndex FindFree() const;

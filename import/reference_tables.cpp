@@ -116,8 +116,7 @@ const GearCategory& LayoutOf(const GearTable& table, Integer category) {
 
 int GearColumnIndex(const GearTable& table, Integer category, std::string_view column) {
   const GearCategory& layout = LayoutOf(table, category);
-  for (int index = 1; index <= std::min<Integer>(layout.columnCount, layout.columns.kLast);
-       ++index) {
+  for (int index = 1; index <= AtMost(layout.columnCount, layout.columns.kLast); ++index) {
     if (layout.columns[index] == column) return index;
   }
   return -1;

@@ -140,7 +140,7 @@ void DiceRoller::txtNumDice_Change(const std::string& text) {
 
 void DiceRoller::txtCPx_Change(const std::string& text) {
   txtCPx = text;
-  txtCPx = PlainText(std::max<Integer>(LenientInteger(text), 0));
+  txtCPx = PlainText(AtLeast(LenientInteger(text), 0));
 }
 
 void DiceRoller::txtRangeTargetNumber_Change(const std::string& text) {
@@ -160,7 +160,7 @@ void DiceRoller::txtRVar_Change(int box, const std::string& text) {
 
 void DiceRoller::cmdDicePlusMinus(int index) {
   const Integer dice = LenientInteger(txtNumDice) + (index == 0 ? 1 : -1);
-  vNumDice(std::max<Integer>(dice, 0));
+  vNumDice(AtLeast(dice, 0));
 }
 
 void DiceRoller::cmdCPplusMinus(int index) {
@@ -168,8 +168,8 @@ void DiceRoller::cmdCPplusMinus(int index) {
   const Integer dice = LenientInteger(txtNumDice);
   const Integer toDice = index == 0 ? 1 : -1;
   if ((toDice == 1 ? pool : dice) < 1) return;
-  const Integer newPool = std::max<Integer>(pool, 0) - toDice;
-  vNumDice(std::max<Integer>(dice, 0) + toDice);
+  const Integer newPool = AtLeast(pool, 0) - toDice;
+  vNumDice(AtLeast(dice, 0) + toDice);
   txtCPx = PlainText(newPool);
 }
 

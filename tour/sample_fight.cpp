@@ -297,7 +297,7 @@ void SampleFight::SaveAndRestore() {
   Press("mnuFileLoad");
   guide_.Say(QStringLiteral("  ") + Text("lblStatus"));
   const Fight& restored = program_.session.main.fight;
-  for (int slot = 1; slot <= saved.NumPlayers.Value(); ++slot) {
+  for (const Slot slot : SlotsUpTo(saved.NumPlayers)) {
     const PlayerRecord& before = saved.Players[slot];
     const PlayerRecord& now = restored.Players[slot];
     if (now.Name != before.Name || now.RRSLT != before.RRSLT ||

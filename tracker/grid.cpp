@@ -28,7 +28,7 @@ void InitiativeGrid::PaintRowGreen(OrderPosition row) {
 }
 
 void InitiativeGrid::Paint(OrderPosition row, Colour colour) {
-  if (row < 1 || row > RowCount()) return;
+  if (row < 1 || row.Value() > RowCount()) return;
   rows_[static_cast<std::size_t>(row.Value())].colour.fill(colour);
 }
 
@@ -38,9 +38,9 @@ void InitiativeGrid::RefreshGrid() {
   rows_.resize(static_cast<std::size_t>(n.Value()) + 1);
   currentRow_ = std::min(currentRow_, n.Value());
   fight_.CurGreen = 0;
-  for (int p = 1; p <= n; ++p) {
+  for (const OrderPosition p : PositionsUpTo(n)) {
     const PlayerRecord& record = fight_.Players[fight_.InitOrder[p]];
-    Row& row = rows_[static_cast<std::size_t>(p)];
+    Row& row = rows_[static_cast<std::size_t>(p.Value())];
     row.text[kNameColumn] = record.Name;
     row.text[kRollColumn] = PlainText(record.RRSLT);
     row.text[kTextColumn] = record.CondCode;

@@ -112,6 +112,7 @@ std::string Written(SlotForm form, Integer value) {
   return form == SlotForm::Emptied ? std::string{} : PrintForm(value);
 }
 std::string Written(SlotForm, std::int32_t value) { return PrintForm(value); }
+std::string Written(SlotForm, CharacterIndex value) { return PrintForm(value.Value()); }
 std::string Written(SlotForm, Boolean value) { return value.Raw() != 0 ? "1" : "0"; }
 
 std::string NumberAsText(std::string_view text) {
@@ -131,6 +132,9 @@ void Take(SlotForm form, std::string_view text, Integer& into) {
   into = form == SlotForm::Strict ? StrictInteger(text) : LenientInteger(text);
 }
 void Take(SlotForm, std::string_view text, std::int32_t& into) { into = LenientLong(text); }
+void Take(SlotForm, std::string_view text, CharacterIndex& into) {
+  into = CharacterIndex::From(LenientInteger(text));
+}
 void Take(SlotForm, std::string_view text, Boolean& into) { into = LeadingNumber(text) == 1; }
 
 }  // namespace

@@ -11,10 +11,10 @@ namespace ng {
 // The state file keeps a whole fight: the fight-wide counters and the turn list in a section
 // "[SystemState]", then a section "[Slot1]", "[Slot2]" ... for each combatant.
 
-/// The text of the state file, with lines ended by CR LF. Counts the combatants afresh, into
-/// `NumPlayers`, and writes that many slots from slot 1 on, so that a combatant beyond a hole is
-/// left out. Subscript out of range for a `TurnNum` above 100.
-std::string StateFileText(Fight& fight);
+/// The text of the state file, with lines ended by CR LF. Counts the combatants afresh and writes
+/// that many slots from slot 1 on, so that a combatant beyond a hole is left out. Subscript out of
+/// range for a `TurnNum` above 100.
+std::string StateFileText(const Fight& fight);
 
 /// The names of the combatants that StateFileText leaves out, in the order of their slots.
 std::vector<std::string> NamesLeftOut(const Fight& fight);

@@ -86,7 +86,7 @@ TEST_F(HostileNumbers, LeaveNothingHalfDone) {
   program.Do("Form_Drop", 0, "C:\\chars\\sable.ng3");
   program.Do("mnuPRemove");
   EXPECT_EQ(LastMessage(), "message \"Overflow\"");
-  EXPECT_EQ(program.fight.CurrentPCpointer, 0);
+  EXPECT_EQ(program.fight.CurrentPCpointer.Value(), 0);
   EXPECT_EQ(program.main.GridX.RowCount(), 1);
 }
 

@@ -64,7 +64,7 @@ TEST_F(FiringTest, AttacksWaitForTheTurnAndReactionsForTheOthers) {
   program.Do("cmdBody");
   EXPECT_EQ(program.prompts.TakeLog(), Log{"message \"Cannot Dodge/Body on your turn\""});
   const std::string shoot = "message \"Can only shoot on PC's turn!\"";
-  for (const int displayed : {0, 2, 1}) {
+  for (const Slot displayed : {Slot(0), Slot(2), Slot(1)}) {
     if (displayed == 1) program.Do("mnuTPrev");  // Ash stands first, but before the first step
     main.XFerPC(displayed);
     program.prompts.TakeLog();
@@ -72,7 +72,7 @@ TEST_F(FiringTest, AttacksWaitForTheTurnAndReactionsForTheOthers) {
     for (const char* act : {"cmdShots1", "cmdShots3", "cmdShotsFA", "cmdUnarmed"}) program.Do(act);
     EXPECT_EQ(program.prompts.TakeLog(),
               (Log{shoot, shoot, shoot, "message \"Can only fight on PC's turn!\""}));
-    EXPECT_EQ(program.fight.Players[displayed], before) << displayed;
+    EXPECT_EQ(program.fight.Players[displayed], before) << displayed.Value();
   }
   EXPECT_FALSE(roller.visible);
   program.Do("cmdBody");
@@ -281,7 +281,7 @@ TEST_F(FiringTest, AnOpenTestIsItsShootersWhoeverIsDisplayed) {
   program.Do("GridX_Click", 1);
   program.Do("cmdShots1", 1);
   program.Do("mnuPRemove");
-  EXPECT_EQ(roller.Tester(), 0);
+  EXPECT_EQ(roller.Tester().Value(), 0);
 }
 
 TEST_F(FiringTest, ASheetThatIsNotShownAgainGoesOverTheClearedCounts) {
@@ -293,7 +293,7 @@ TEST_F(FiringTest, ASheetThatIsNotShownAgainGoesOverTheClearedCounts) {
   program.Do("GridX_Click", 2);
   program.Do("txtTBTT", 0, "3");
   program.Do("mnuTNext");
-  EXPECT_EQ(program.fight.CurrentPCpointer, 2);
+  EXPECT_EQ(program.fight.CurrentPCpointer.Value(), 2);
   EXPECT_EQ(ash.TBTTPrim, "3");
 }
 

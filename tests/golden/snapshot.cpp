@@ -79,17 +79,18 @@ class SnapshotVisitor : public ControlVisitor {
 
 void AddFight(const Fight& fight, Snapshot& snapshot) {
   for (const FightField& field : FightFields()) {
-    snapshot.emplace_back(field.name, PlainText(fight.*field.member));
+    snapshot.emplace_back(field.name, PlainText(NumberIn(fight, field.member)));
   }
   snapshot.emplace_back("GlobalEvents", Quoted(fight.GlobalEvents));
   for (int i = 0; i <= Fight::kLastSlot; ++i) {
     const std::string number = std::to_string(i);
-    snapshot.emplace_back("InitOrder " + number, PlainText(fight.InitOrder[i]));
+    snapshot.emplace_back("InitOrder " + number,
+                          PlainText(fight.InitOrder[OrderPosition::From(i)].Value()));
     snapshot.emplace_back("Turn" + number, PlainText(fight.TurnHistory[i].Turn));
     snapshot.emplace_back("2Turn" + number, PlainText(fight.TurnHistory[i].TwoTurn));
     for (const PlayerField& field : PlayerFields()) {
       snapshot.emplace_back("Slot" + number + " " + field.name,
-                            Quoted(FieldText(fight.Players[i], field)));
+                            Quoted(FieldText(fight.Players[Slot::From(i)], field)));
     }
   }
 }

@@ -20,7 +20,7 @@ class ActionsTest : public testing::Test {
     program.Do("mnuTReset");
   }
 
-  PlayerRecord& Of(int slot) { return program.fight.Players[slot]; }
+  PlayerRecord& Of(Slot slot) { return program.fight.Players[slot]; }
   void Answer(const std::string& text) {
     program.prompts.answers.push_back({ScriptedPrompts::Answer::Kind::Input, text, {}});
   }
@@ -175,7 +175,8 @@ TEST_F(ActionsTest, ADeletionLeavesAHoleThatACopyFillsWithoutLoss) {
 
 TEST_F(ActionsTest, ASheetIsReleasedWithItsLastUser) {
   CharacterTable& characters = program.main.characters;
-  for (int index = 1; index <= 3; ++index) characters.entries[index].Filename = "file";
+  for (const CharacterIndex index : IndexRange<CharacterIndex>(1, 3))
+    characters.entries[index].Filename = "file";
   program.Do("GridX_Click", 1);
   Answer("1");
   program.Do("mnuPMult");

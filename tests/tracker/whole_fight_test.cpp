@@ -28,15 +28,15 @@ class WholeFight : public testing::Test {
            program.main.TurnBadge();
   }
   void Show(const char* name) {
-    for (int p = 1; p <= fight.CountPlayers(); ++p) {
+    for (const OrderPosition p : PositionsUpTo(fight.CountPlayers())) {
       if (fight.Players[fight.InitOrder[p]].Name == name) {
-        program.Do("GridX_Click", p);
+        program.Do("GridX_Click", p.Value());
         return;
       }
     }
     FAIL() << name << " stands nowhere";
   }
-  Integer Score(int slot) { return fight.Players[slot].FRSLT; }
+  Integer Score(Slot slot) { return fight.Players[slot].FRSLT; }
   void Answer(const char* text) {
     program.prompts.answers.push_back({ScriptedPrompts::Answer::Kind::Input, text, {}});
   }

@@ -110,6 +110,7 @@ std::string ValueText(const std::string& value) { return value; }
 std::string ValueText(Integer value) { return PlainText(value); }
 std::string ValueText(Boolean value) { return std::to_string(value.Raw()); }
 std::string ValueText(std::int32_t value) { return std::to_string(value); }
+std::string ValueText(CharacterIndex value) { return std::to_string(value.Value()); }
 
 }  // namespace
 

@@ -5,16 +5,17 @@
 #include <variant>
 #include <vector>
 
+#include "base/index.h"
 #include "base/integer.h"
 
 namespace ng {
 
 /// Index into the combatant table, 1 to 100; 0 means "none".
-using Slot = Integer;
+using Slot = Index<struct SlotTag>;
 /// Place in the initiative order, 1 to 100; 0 means "in no place".
-using OrderPosition = Integer;
+using OrderPosition = Index<struct OrderPositionTag>;
 /// Index of an imported character sheet, 1 to 50; 0 means "none".
-using CharacterIndex = Integer;
+using CharacterIndex = Index<struct CharacterIndexTag>;
 
 /// The two condition tracks, with the index of their controls.
 enum class Track { Physical = 0, Stun = 1 };
@@ -167,8 +168,9 @@ inline bool IsOutOfFight(const PlayerRecord& record) {
 
 /// A field of the record with its name, for those who go through all of them.
 struct PlayerField {
-  using Member = std::variant<std::string PlayerRecord::*, Integer PlayerRecord::*,
-                              Boolean PlayerRecord::*, std::int32_t PlayerRecord::*>;
+  using Member =
+      std::variant<std::string PlayerRecord::*, Integer PlayerRecord::*, Boolean PlayerRecord::*,
+                   std::int32_t PlayerRecord::*, CharacterIndex PlayerRecord::*>;
   const char* name;
   Member member;
 };
