@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -70,6 +71,43 @@ class Prompts {
   /// `done` of `total` steps of a piece of work are behind us, all of them at its end. Nothing need
   /// be shown of work that is over in a moment.
   virtual void ShowProgress(std::string_view what, int done, int total) = 0;
+};
+
+/// The wall clock.
+class Clock {
+ public:
+  virtual ~Clock() = default;
+  /// The local date and time to the second, "2026-11-21 21:43:05".
+  virtual std::string Now() = 0;
+};
+
+/// A file that only grows. While it is open no other program can open it as one.
+class DurableFile {
+ public:
+  virtual ~DurableFile() = default;
+  /// When this returns the bytes outlive the program; within a second they outlive the machine.
+  /// Throws the file errors.
+  virtual void Append(std::string_view bytes) = 0;
+  /// Puts what was appended on the device as soon as may be, without waiting for it.
+  virtual void Flush() = 0;
+};
+
+/// The journals of fights, by their names.
+class JournalStore {
+ public:
+  virtual ~JournalStore() = default;
+  /// In rising order; none when there is no such directory.
+  virtual std::vector<std::string> List() = 0;
+  /// The whole content. Throws the file errors.
+  virtual std::string Read(const std::string& name) = 0;
+  /// Whether a program that runs has it open.
+  virtual bool IsHeld(const std::string& name) = 0;
+  /// Opens a journal, cut off behind its first `bytes` bytes, or makes a new one. Throws the file
+  /// errors, "Permission denied" where a running program has it open.
+  virtual std::unique_ptr<DurableFile> Open(const std::string& name, std::size_t bytes) = 0;
+  /// Gives it another name, also while it is open. Throws the file errors.
+  virtual void Rename(const std::string& from, const std::string& to) = 0;
+  virtual void Remove(const std::string& name) = 0;
 };
 
 /// The per-user store for the window layout.
