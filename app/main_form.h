@@ -30,6 +30,7 @@
 #include "tracker/fight/fight.h"
 #include "tracker/grid.h"
 #include "tracker/sequencer.h"
+#include "tracker/turn_status.h"
 
 namespace ng {
 
@@ -210,8 +211,7 @@ class MainForm : private SequencerHost {
   void ShowRestored(Slot slot);
 
   // What the window shows beside the controls.
-  /// "On turn", "Delayed", "Inactive" or "Waiting"; a dash with nobody displayed.
-  std::string TurnBadge() const;
+  TurnState TurnBadge() const { return TurnStateOf(fight, fight.CurrentPCpointer); }
   /// The grid row of the displayed combatant, 0 for none.
   int ShownRow() const;
   /// Rounds left in a weapon's magazine; empty for a weapon without one.

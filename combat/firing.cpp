@@ -53,10 +53,6 @@ Integer CheckPCAmbidexterity(const CharacterEntry* entry) {
   return 0;
 }
 
-bool Firing::HasTurn() const {
-  return fight_.CurrentPCpointer != 0 && fight_.MyTurn() && fight_.SeqNum >= 1;
-}
-
 bool Firing::MayFire(Weapon weapon) {
   if (!HasTurn()) {
     prompts_.Message("Can only shoot on PC's turn!");

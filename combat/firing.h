@@ -10,6 +10,7 @@
 #include "notes/gm_log.h"
 #include "roller/dice_roller.h"
 #include "tracker/fight/fight.h"
+#include "tracker/turn.h"
 
 namespace ng {
 
@@ -39,8 +40,8 @@ class Firing {
         prompts_(prompts),
         settings_(settings) {}
 
-  /// Whether the displayed combatant may attack: its turn, and a step of the combat turn taken.
-  bool HasTurn() const;
+  /// Whether the displayed combatant may attack.
+  bool HasTurn() const { return MayActNow(fight_, fight_.CurrentPCpointer); }
   /// The last firing action was for two rounds or more.
   Boolean BurstFire() const { return burstFire_; }
 

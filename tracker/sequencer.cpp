@@ -3,6 +3,7 @@
 #include "base/number_text.h"
 #include "base/random_int.h"
 #include "base/text.h"
+#include "tracker/turn.h"
 
 namespace ng {
 namespace {
@@ -161,7 +162,7 @@ Sequencer::Look Sequencer::LookAtCurrent() {
     record.TBTTSec = "0";
   }
   if (record.Delay) return Look::Delayed;
-  if (record.FRSLT - (fight_.PhaseCnt - 1) * kPassWidth <= 0) return Look::GoOn;
+  if (!HasActionLeft(fight_, slot)) return Look::GoOn;
   record.TurnDone = true;
   RecordStep(slot);
   PaintTurn(fight_.LTurn);

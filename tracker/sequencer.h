@@ -28,8 +28,6 @@ class SequencerHost {
 /// played again by Previous and Next instead of moving the fight on.
 class Sequencer {
  public:
-  static constexpr int kPassWidth = 10;
-  static constexpr int kLastPass = 10;
   static constexpr int kAstralBonus = 20;
 
   Sequencer(Fight& fight, InitiativeGrid& grid, Uniform& uniform, Prompts& prompts,

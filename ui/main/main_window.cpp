@@ -229,7 +229,7 @@ void MainWindow::PaintCounts() {
   ShowText(*combatants_, count == 1 ? tr("1 combatant") : tr("%1 combatants").arg(count));
   ShowText(*combatTurn_, tr("Combat turn %1").arg(form.fight.RoundCount.Value()));
   const int pass = form.fight.PhaseCnt.Value();
-  ShowText(*pass_, pass > Sequencer::kLastPass ? tr("Turn over") : tr("Pass %1").arg(pass));
+  ShowText(*pass_, pass > kLastPass ? tr("Turn over") : tr("Pass %1").arg(pass));
   const bool off = static_cast<bool>(session_.environment.settings.DisableNGDR);
   ShowText(*roller_, off ? tr("Roller off") : tr("Roller on"));
 }
