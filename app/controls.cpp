@@ -26,7 +26,7 @@ void VisitHeader(const MainForm& form, ControlVisitor& visitor) {
   visitor.Text({"lblNameY"}, header.lblNameY);
   visitor.Text({"lblNameZ"}, header.lblNameZ);
   visitor.Text({"lblRace2"}, header.lblRace2);
-  visitor.Text({"lblTurn"}, form.TurnBadge());
+  visitor.Turn({"lblTurn"}, form.TurnBadge());
   visitor.Text({"txtRRSLT"}, header.txtRRSLT);
   visitor.Text({"lblFRSLT"}, header.lblFRSLT);
   VisitTexts(visitor, "txtInit", header.txtInit);

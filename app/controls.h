@@ -6,6 +6,7 @@
 #include "base/integer.h"
 #include "import/character_sheet.h"
 #include "tracker/grid.h"
+#include "tracker/turn_status.h"
 
 namespace ng {
 
@@ -35,6 +36,8 @@ class ControlVisitor {
   /// List boxes, and the entries of combo boxes.
   virtual void List(ControlName control, const std::vector<std::string>& lines) = 0;
   virtual void CheckList(ControlName control, const std::vector<CarriedLine>& lines) = 0;
+  /// The badge that tells where a combatant stands in the turn.
+  virtual void Turn(ControlName control, TurnState state) = 0;
   virtual void Grid(ControlName control, const InitiativeGrid& grid) = 0;
 };
 

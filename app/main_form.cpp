@@ -294,13 +294,6 @@ void MainForm::SyncSheet() {
 
 void MainForm::RefreshPools() { ng::RefreshPools(fight, characters); }
 
-std::string MainForm::TurnBadge() const {
-  if (!Displaying()) return "\x96";
-  const PlayerRecord& record = fight.Players[fight.CurrentPCpointer];
-  if (record.inactive) return "Inactive";
-  if (record.Delay) return "Delayed";
-  return record.SetGreen ? "On turn" : "Waiting";
-}
 
 std::string MainForm::RoundsLeft(Weapon weapon) const {
   if (weapons.lblAmmo[static_cast<std::size_t>(weapon)].empty()) return {};

@@ -30,6 +30,7 @@
 #include "tracker/fight/fight.h"
 #include "tracker/grid.h"
 #include "tracker/sequencer.h"
+#include "tracker/turn_status.h"
 
 namespace ng {
 
@@ -216,8 +217,7 @@ class MainForm : private SequencerHost, private DiceRoller::Weapons {
   void FollowTest();
 
   // What the window shows beside the controls.
-  /// "On turn", "Delayed", "Inactive" or "Waiting"; a dash with nobody displayed.
-  std::string TurnBadge() const;
+  TurnState TurnBadge() const { return TurnStateOf(fight, fight.CurrentPCpointer); }
   /// The grid row of the displayed combatant, 0 for none.
   int ShownRow() const;
   /// Rounds left in a weapon's magazine; empty for a weapon without one.

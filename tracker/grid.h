@@ -6,6 +6,7 @@
 
 #include "base/integer.h"
 #include "tracker/fight/fight.h"
+#include "tracker/turn_status.h"
 
 namespace ng {
 
@@ -19,8 +20,7 @@ class InitiativeGrid {
   static constexpr int kRollColumn = 1;
   static constexpr int kTextColumn = 2;
 
-  /// Cell back colours as the platform numbers them, 0xBBGGRR.
-  enum class Colour { White = 0xFFFFFF, Green = 0x00FF00, Yellow = 0x00FFFF, Red = 0x0000FF };
+  using Colour = RowColour;
 
   struct Row {
     std::array<std::string, kColumns> text;

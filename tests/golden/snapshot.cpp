@@ -11,20 +11,6 @@
 namespace ng {
 namespace {
 
-const char* ColourName(InitiativeGrid::Colour colour) {
-  switch (colour) {
-    case InitiativeGrid::Colour::White:
-      return "white";
-    case InitiativeGrid::Colour::Green:
-      return "green";
-    case InitiativeGrid::Colour::Yellow:
-      return "yellow";
-    case InitiativeGrid::Colour::Red:
-      return "red";
-  }
-  return "?";
-}
-
 class SnapshotVisitor : public ControlVisitor {
  public:
   SnapshotVisitor(Snapshot& snapshot, std::string prefix)
@@ -51,12 +37,16 @@ class SnapshotVisitor : public ControlVisitor {
           (lines[i].carried ? "[x] " : "[ ] ") + Quoted(lines[i].text));
     }
   }
+  void Turn(ControlName control, TurnState state) override {
+    Add(Name(control), Quoted(LookOf(state).badge));
+  }
   void Grid(ControlName control, const InitiativeGrid& grid) override {
     for (int row = 1; row <= grid.RowCount(); ++row) {
       const InitiativeGrid::Row& cells = grid.RowAt(row);
       std::string value;
       for (const std::string& text : cells.text) value += Quoted(text) + " ";
-      Add(Name(control) + " row " + std::to_string(row), value + ColourName(cells.colour[0]));
+      Add(Name(control) + " row " + std::to_string(row),
+          value + LookOf(cells.colour[0]).colourName);
     }
     Add(Name(control) + " cell",
         std::to_string(grid.CurrentRow()) + " " + std::to_string(grid.CurrentColumn()));

@@ -86,7 +86,7 @@ TEST_F(ActionsTest, InactiveCombatantsLoseTheirRollAndComeBackWithAFreshOne) {
   EXPECT_EQ(Of(2).FRSLT.Value(), 8);  // not before the next sort
   EXPECT_EQ(program.main.header.txtRRSLT, "0");
   EXPECT_EQ(program.main.GridX.RowAt(2).colour[0], Colour::Red);
-  EXPECT_EQ(program.main.TurnBadge(), "Inactive");
+  EXPECT_EQ(program.main.TurnBadge(), TurnState::Inactive);
   program.uniform.PushFaces({3});
   program.Do("mnuPInactive");
   EXPECT_EQ(Of(2).RRSLT.Value(), 7);

@@ -95,7 +95,7 @@ TEST(Grid, AClickKeepsTheTurnAndStoresTheSheetBefore) {
   EXPECT_EQ(program.main.header.lblName2, "Birch");
   EXPECT_EQ(program.fight.LTurn.Value(), 1);
   EXPECT_EQ(program.fight.Players[1].CP.Value(), 4);
-  EXPECT_EQ(program.main.TurnBadge(), "Waiting");
+  EXPECT_EQ(program.main.TurnBadge(), TurnState::Waiting);
   for (const int row : {0, 3, -1}) program.Do("GridX_Click", row);
   EXPECT_EQ(program.main.header.lblName2, "Birch");
 }

@@ -8,6 +8,7 @@
 #include <QStyleOption>
 #include <optional>
 
+#include "ui/look/row_colour.h"
 #include "ui/look/style_buttons.h"
 #include "ui/look/style_panels.h"
 #include "ui/look/theme.h"
@@ -32,25 +33,20 @@ std::optional<QPalette::ColorRole> ToneOf(const QWidget& widget) {
   return std::nullopt;
 }
 
-/// The colour of the grid's rows that says the same; an invalid one where no row has a colour.
-QColor RowColour(const QString& text) {
-  if (text == QLatin1String("On turn")) return {0, 255, 0};
-  if (text == QLatin1String("Delayed")) return {255, 255, 0};
-  if (text == QLatin1String("Inactive")) return {255, 0, 0};
-  return {};
-}
-
-void ColourBadge(QLabel& badge) {
-  const QColor row = RowColour(badge.text());
+/// A badge wears the colour of the rows that say the same, and the window's where none does.
+void ColourBadge(QLabel& badge, TurnState state) {
+  const RowColour colour = LookOf(state).colour;
+  const bool plain = colour == RowColour::White;
   QPalette colours;
-  colours.setColor(QPalette::Base, row.isValid() ? row : Theme::Current().group);
+  colours.setColor(QPalette::Base, plain ? Theme::Current().group : ToQColor(colour));
   // Black stands on the colours of the rows, in either theme.
-  if (row.isValid()) colours.setColor(QPalette::WindowText, Qt::black);
+  if (!plain) colours.setColor(QPalette::WindowText, Qt::black);
   badge.setPalette(colours);
 }
 
 void ColourLabel(QLabel& label) {
-  if (label.objectName() == QLatin1String("lblTurn")) return ColourBadge(label);
+  const QVariant state = label.property("turnState");
+  if (state.isValid()) return ColourBadge(label, static_cast<TurnState>(state.toInt()));
   if (const auto role = ToneOf(label)) label.setForegroundRole(*role);
 }
 

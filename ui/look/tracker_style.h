@@ -9,6 +9,7 @@ namespace ng {
 /// what it is for:
 ///   - "tone", of a label or line edit: its text is "muted", or stands out ("accent", "alarm");
 ///   - "nonZero", of a line edit: whether it holds a modifier that counts;
+///   - "turnState", of a badge: the TurnState whose row colour it has;
 ///   - "shape", of a push button: "caption" for one that stands before a box.
 class TrackerStyle : public QProxyStyle {
   Q_OBJECT

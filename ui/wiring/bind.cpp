@@ -26,10 +26,16 @@ namespace {
 
 void ShowLabel(QLabel& label, const QString& text) {
   const QString shown = text.isEmpty() ? label.property("emptyText").toString() : text;
-  if (label.text() == shown) return;
-  label.setText(shown);
-  // The style colours the turn badge by what it says.
-  if (label.objectName() == QLatin1String("lblTurn")) label.style()->polish(&label);
+  if (label.text() != shown) label.setText(shown);
+}
+
+/// The style colours the badge by its state.
+void ShowBadge(QLabel& badge, TurnState state) {
+  const int number = static_cast<int>(state);
+  if (badge.property("turnState") == number) return;
+  badge.setProperty("turnState", number);
+  badge.setText(ToQString(LookOf(state).badge));
+  badge.style()->polish(&badge);
 }
 
 void ShowNote(QPlainTextEdit& edit, QString text) {
@@ -199,6 +205,12 @@ void Binder::CheckList(ControlName control, const std::vector<CarriedLine>& line
     ShowMarks(*tree, lines);
   }
   place.lines = std::move(texts);
+}
+
+void Binder::Turn(ControlName control, TurnState state) {
+  for (QObject* widget : NextPlace(control, &Binder::Named).widgets) {
+    if (auto* badge = qobject_cast<QLabel*>(widget)) ShowBadge(*badge, state);
+  }
 }
 
 void Binder::Grid(ControlName control, const InitiativeGrid& grid) {

@@ -43,6 +43,7 @@ class Binder : public QObject, private ControlVisitor {
   void Level(ControlName control, int boxes) override;
   void List(ControlName control, const std::vector<std::string>& lines) override;
   void CheckList(ControlName control, const std::vector<CarriedLine>& lines) override;
+  void Turn(ControlName control, TurnState state) override;
   void Grid(ControlName control, const InitiativeGrid& grid) override;
 
   using Lookup = std::vector<QObject*> (Binder::*)(const ControlName&) const;
