@@ -290,7 +290,7 @@ void MainForm::ZeroRoundCounters() { firing.ZeroRoundCounters(); }
 
 std::string MainForm::TurnBadge() const {
   if (!Displaying()) return "\x96";
-  const PlayerRecord& record = fight.Players[fight.CurrentPCpointer];
+  const PlayerRecord& record = fight.RecordOf(fight.CurrentPCpointer);
   if (record.inactive) return "Inactive";
   if (record.Delay) return "Delayed";
   return record.SetGreen ? "On turn" : "Waiting";

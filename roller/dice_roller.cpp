@@ -91,14 +91,15 @@ void DiceRoller::tabTest_Click(TestPage page) {
 
 void DiceRoller::TakePool() {
   poolOwner_ = fight_.CurrentPCpointer;
-  poolTaken_ = Displayed().CP;
+  poolTaken_ = fight_.RecordOf(poolOwner_).CP;
   txtCPx = PlainText(poolTaken_);
 }
 
 void DiceRoller::FollowPool() {
-  const PlayerRecord& owner = fight_.Players[poolOwner_];
+  const PlayerRecord& owner = fight_.RecordOf(poolOwner_);
   if (txtCPx == PlainText(poolTaken_) || owner.Name.empty()) {
-    if (poolOwner_ != fight_.CurrentPCpointer || poolTaken_ != Displayed().CP) TakePool();
+    const Slot displayed = fight_.CurrentPCpointer;
+    if (poolOwner_ != displayed || poolTaken_ != fight_.RecordOf(displayed).CP) TakePool();
     return;
   }
   const double change = owner.CP.Value() - poolTaken_.Value();
@@ -219,7 +220,8 @@ std::string DiceRoller::BaseNumber() const {
 
 std::string DiceRoller::BaseCaption() const {
   constexpr std::array<const char*, 4> kRanges = {"short", "medium", "long", "extreme"};
-  if (tabTest != TestPage::Ranged || bracket_ < 0) return "Base number";
+  const bool shot = bracket_ >= 0 && bracket_ < static_cast<int>(kRanges.size());
+  if (tabTest != TestPage::Ranged || !shot) return "Base number";
   return std::string("Base number (") + kRanges[static_cast<std::size_t>(bracket_)] + " range)";
 }
 

@@ -4,6 +4,10 @@
 
 namespace ng {
 
+const PlayerRecord& Fight::RecordOf(Slot slot) const {
+  return Players[slot >= 0 && slot <= kLastSlot ? slot : Slot(0)];
+}
+
 Integer Fight::CountPlayers() {
   int count = 0;
   for (int slot = 1; slot <= kLastSlot; ++slot) {
