@@ -107,6 +107,17 @@ void RollerBox(Session& session, const Act& act) {
   (session.main.ngdr.*function)(act.text);
 }
 
+/// An edge of the main window, in twips.
+template <int WindowLayout::*edge>
+void KeepPlace(Session& session, const Act& act) {
+  session.main.layout.*edge = act.index;
+}
+
+void LoadRoller(Session& session, const Act&) {
+  const Environment& environment = session.environment;
+  session.main.ngdr.Form_Load(environment.files, environment.settings.DatDir);
+}
+
 constexpr std::string_view kRollerPrefix = "ngdr.";
 
 /// A click on any of the captions beside the modifier boxes.
@@ -179,6 +190,12 @@ const auto kCommands = std::to_array<Command>({
     {"mnuHelpAbout", Main<&MainForm::mnuHelpAbout>, Menu::Help, 1, "&About NGtracker", "Shift+F1",
      "Which version this is, and what it is built on"},
 
+    {"Form_Load", Main<&MainForm::Form_Load>},
+    {"Form_Unload", Main<&MainForm::Form_Unload>},
+    {"MainLeft", KeepPlace<&WindowLayout::MainLeft>},
+    {"MainTop", KeepPlace<&WindowLayout::MainTop>},
+    {"MainWidth", KeepPlace<&WindowLayout::MainWidth>},
+    {"MainHeight", KeepPlace<&WindowLayout::MainHeight>},
     {"Form_Drop", MainText<&MainForm::Form_Drop>},
     {"GridX_Click", MainIndexed<&MainForm::GridX_Click>},
     {"GridX_KeyPress", MainIndexed<&MainForm::GridX_KeyPress>},
@@ -262,6 +279,7 @@ const auto kCommands = std::to_array<Command>({
     {"txtNoteFileName", MainText<&MainForm::txtNoteFileName_Change>},
     {"txtNotes", MainText<&MainForm::txtNotes_Change>},
 
+    {"ngdr.Form_Load", LoadRoller},
     {"ngdr.tabTest", OpenTestPage},
     {"ngdr.cmdRoll", [](Session& s, const Act&) { s.main.ngdr.cmdRoll(); }},
     {"ngdr.cmdDicePlusMinus", Roller<&DiceRoller::cmdDicePlusMinus>},

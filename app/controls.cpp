@@ -80,7 +80,7 @@ void VisitSkill(ControlVisitor& visitor, const char* nameLabel, const char* leve
 }
 
 void VisitSkillsAndPools(const MainForm& form, ControlVisitor& visitor) {
-  const PlayerRecord& record = form.fight.Players[form.fight.CurrentPCpointer];
+  const PlayerRecord& record = form.fight.RecordOf(form.fight.CurrentPCpointer);
   VisitSkill(visitor, "lblSkillPrimary", "lblSkillPrimaryLevel", record.SkillPrimaryName,
              record.SkillPrimaryValue);
   VisitSkill(visitor, "lblSkillSecondary", "lblSkillSecondaryLevel", record.SkillSecondaryName,
@@ -129,15 +129,15 @@ void VisitSheet(const MainForm& form, ControlVisitor& visitor) {
 
 /// Who is displayed, and whose test and dice they are when they are somebody else's.
 std::string WhoRolls(const MainForm& form) {
-  const auto& players = form.fight.Players;
+  const auto nameOf = [&form](Slot slot) { return form.fight.RecordOf(slot).Name; };
   const Slot shown = form.fight.CurrentPCpointer;
   const Slot tested = form.ngdr.TestOwner();
   const Slot paying = form.ngdr.PoolOwner();
-  std::string name = players[shown].Name;
+  std::string name = nameOf(shown);
   // Whoever has been removed since has no name.
-  if (tested != shown && !players[tested].Name.empty()) name += ", test of " + players[tested].Name;
-  if (paying != shown && paying != tested && !players[paying].Name.empty()) {
-    name += ", pool of " + players[paying].Name;
+  if (tested != shown && !nameOf(tested).empty()) name += ", test of " + nameOf(tested);
+  if (paying != shown && paying != tested && !nameOf(paying).empty()) {
+    name += ", pool of " + nameOf(paying);
   }
   return name;
 }
@@ -146,7 +146,7 @@ std::string WhoRolls(const MainForm& form) {
 
 void VisitRollerControls(const MainForm& form, ControlVisitor& visitor) {
   const DiceRoller& roller = form.ngdr;
-  const PlayerRecord& record = form.fight.Players[roller.Tester()];
+  const PlayerRecord& record = form.fight.RecordOf(roller.Tester());
   visitor.Text({"lblName"}, WhoRolls(form));
   visitor.Text({"lblSkill"}, std::string(Piece(roller.lblSkill, '\t', 0)));
   visitor.Text({"lblDamageCode"}, roller.DamageCode);

@@ -298,7 +298,7 @@ void MainForm::RefreshPools() { ng::RefreshPools(fight, characters); }
 std::string MainForm::RoundsLeft(Weapon weapon) const {
   if (weapons.lblAmmo[static_cast<std::size_t>(weapon)].empty()) return {};
   try {
-    return PlainText(AmmoLeft(fight.Players[fight.CurrentPCpointer], weapon));
+    return PlainText(AmmoLeft(fight.RecordOf(fight.CurrentPCpointer), weapon));
   } catch (const RuntimeError&) {
     // The window is painted outside every command: a number that cannot be counted is not shown.
     return {};

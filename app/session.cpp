@@ -1,6 +1,7 @@
 #include "app/session.h"
 
 #include <stdexcept>
+#include <string>
 #include <utility>
 
 #include "app/commands.h"
@@ -14,17 +15,38 @@ Session::Session(Environment outside)
       options(environment.files, environment.location, environment.settings),
       main(environment, loader, options) {}
 
-void Session::Do(const Act& act) {
+bool Session::Do(const Act& act) {
   const Command* command = FindCommand(act.control);
   if (command == nullptr) throw std::invalid_argument("no command is named " + act.control);
   // What an earlier command had to say is over with the next one of the menus.
   if (command->menu != Menu::None) main.statusMessage = "Ready";
+  const bool finished = Finish([&] { command->run(*this, act); });
+  return Finish([&] { main.FollowTest(); }) && finished;
+}
+
+template <typename Work>
+bool Session::Finish(Work work) {
+  constexpr const char* kFault = "The command could not be finished: ";
   try {
-    command->run(*this, act);
+    work();
+    return true;
   } catch (const RuntimeError& error) {
-    environment.prompts.Message(error.what());
+    Tell("", error.what());
+  } catch (const std::exception& fault) {
+    Tell(kFault, fault.what());
+  } catch (...) {
+    Tell(kFault, "unknown fault");
   }
-  main.FollowTest();
+  return false;
+}
+
+void Session::Tell(const char* introduction, const char* fault) {
+  try {
+    environment.prompts.Message(std::string(introduction) + fault);
+  } catch (...) {
+    // Where even the telling fails, as it may when memory runs out, the fight is what has to stay.
+    return;
+  }
 }
 
 }  // namespace ng

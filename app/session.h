@@ -22,11 +22,17 @@ class Session {
   OptionsForm options;
   MainForm main;
 
-  /// Runs the command that the act names, to its end. A runtime error ends the command; its text is
-  /// shown, and what the command had changed before stays. Acts of a modal form come in while the
-  /// command that showed the form still runs. An act that no command is named after is a fault of
-  /// the caller: std::invalid_argument.
-  void Do(const Act& act);
+  /// Runs the command that the act names. Returns whether it came to its end: a runtime error, or
+  /// whatever else is thrown, ends the command and is told, and what the command had changed before
+  /// stays. Acts of a modal form come in while the command that showed the form still runs. An act
+  /// that no command is named after is a fault of the caller: std::invalid_argument, and the only
+  /// thing that this throws.
+  bool Do(const Act& act);
+
+ private:
+  template <typename Work>
+  bool Finish(Work work);
+  void Tell(const char* introduction, const char* fault);
 };
 
 }  // namespace ng

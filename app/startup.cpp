@@ -2,21 +2,22 @@
 
 namespace ng {
 
-void Main(Session& session, StartupWindows& windows) {
+bool Main(Session& session, StartupWindows& windows) {
   Environment& environment = session.environment;
   windows.ShowSplash();
   const std::string directory = ReadCharacterDirectory(environment.files, environment.location);
-  if (directory.empty()) session.main.mnuViewOptions();
+  if (directory.empty() && !session.Do({"mnuViewOptions"})) return false;
   // What was picked in the dialog stands in the file and counts from the next start on; this run
   // goes on with what was read. That is deliberate.
   environment.settings.NG3Dir = directory;
   ReadSettings(environment.files, environment.location, environment.settings);
-  session.main.Form_Load();
+  if (!session.Do({"Form_Load"})) return false;
   windows.LoadMain();
   windows.UnloadSplash();
   // The dice roller is hidden, but there for the whole run.
-  session.main.ngdr.Form_Load(environment.files, environment.settings.DatDir);
+  if (!session.Do({"ngdr.Form_Load"})) return false;
   windows.ShowMain();
+  return true;
 }
 
 }  // namespace ng

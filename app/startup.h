@@ -17,8 +17,8 @@ class StartupWindows {
 };
 
 /// The start of the program: reads the settings, with the options dialog before all else when there
-/// is no character directory, loads the main window behind the splash window and shows it. A
-/// runtime error is not trapped here and ends the program.
-void Main(Session& session, StartupWindows& windows);
+/// is no character directory, loads the main window behind the splash window and shows it. An error
+/// on the way ends the start: it has been told, and the result is false.
+[[nodiscard]] bool Main(Session& session, StartupWindows& windows);
 
 }  // namespace ng

@@ -87,13 +87,13 @@ Slot DiceRoller::Tester() const { return testOpen_ ? testOwner_ : fight_.Current
 
 void DiceRoller::Follow() {
   // Whoever was removed has no test any more.
-  if (testOpen_ && fight_.Players[testOwner_].Name.empty()) testOpen_ = false;
+  if (testOpen_ && fight_.RecordOf(testOwner_).Name.empty()) testOpen_ = false;
   FollowCombatant();
   FollowPool();
 }
 
 void DiceRoller::FollowPool() {
-  const PlayerRecord& owner = fight_.Players[poolOwner_];
+  const PlayerRecord& owner = fight_.RecordOf(poolOwner_);
   if (txtCPx == PlainText(poolTaken_) || owner.Name.empty()) {
     if (poolOwner_ != Tester() || poolTaken_ != Testing().CP) TakePool();
     return;
@@ -218,7 +218,8 @@ std::string DiceRoller::BaseNumber() const {
 
 std::string DiceRoller::BaseCaption() const {
   constexpr std::array<const char*, 4> kRanges = {"short", "medium", "long", "extreme"};
-  if (tabTest != TestPage::Ranged || bracket_ < 0) return "Base number";
+  const bool shot = bracket_ >= 0 && bracket_ < static_cast<int>(kRanges.size());
+  if (tabTest != TestPage::Ranged || !shot) return "Base number";
   return std::string("Base number (") + kRanges[static_cast<std::size_t>(bracket_)] + " range)";
 }
 

@@ -157,7 +157,7 @@ class DiceRoller {
   const FixedTable<Integer, 100>& DieTotals() const { return dieTotals_; }
 
  private:
-  const PlayerRecord& Testing() const { return fight_.Players[Tester()]; }
+  const PlayerRecord& Testing() const { return fight_.RecordOf(Tester()); }
   CombatantModifiers Brought() const;
   Integer ModifierOf(Weapon weapon) const;
   void SelectRange();

@@ -12,7 +12,7 @@ SampleProgram::SampleProgram(const Theme& theme)
     : session({files_, uniform_, prompts_, userSettings_, {{}, PathText(folder_.path())}, {}}) {
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder_.path());
   prompts_.Attach(session);
-  session.main.darkColours = theme.dark;
+  if (theme.dark) session.Do({"mnuViewDark"});
   ApplyTheme(*qApp, theme);
 }
 
@@ -22,7 +22,7 @@ void SampleProgram::Run(Start start) {
   if (start == Start::Later) settings += "NG3Dir=" + sample + "/characters\r\n";
   settings += "DatDir=" + sample + "/DATA\r\n";
   files_.Replace(PathText(OwnFile("tracker.ini")), settings);
-  Main(session, *this);
+  if (!Main(session, *this)) qFatal("the program does not start");
 }
 
 void SampleProgram::LoadMain() {

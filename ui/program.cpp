@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "app/startup.h"
-#include "base/runtime_error.h"
 #include "base/seeded_uniform.h"
 #include "platform/files.h"
 #include "platform/program_directory.h"
@@ -72,17 +71,11 @@ int Run(QApplication& application, std::function<void(QWidget&)> loaded) {
   QtPrompts prompts;
   Session session(Environment{files, uniform, prompts, userSettings, Location(), {}});
   prompts.Attach(session);
-  session.main.darkColours = DesktopIsDark(application);
+  if (DesktopIsDark(application)) session.Do({"mnuViewDark"});
   ApplyTheme(application, session.main.darkColours ? Theme::Dark() : Theme::Light());
   RealWindows windows(session, prompts, std::move(loaded));
-  try {
-    Main(session, windows);
-    windows.Open(QCoreApplication::arguments().mid(2));
-  } catch (const RuntimeError& error) {
-    windows.UnloadSplash();
-    prompts.Message(error.what());
-    return 1;
-  }
+  if (!Main(session, windows)) return 1;
+  windows.Open(QCoreApplication::arguments().mid(2));
   return QApplication::exec();
 }
 

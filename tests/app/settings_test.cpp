@@ -115,7 +115,7 @@ TEST(Startup, WithoutACharacterDirectoryTheOptionsComeFirstAndCountFromTheNextSt
                                       {"frmOptions.chkCloneInit"},
                                       {"frmOptions.cmdOK"}}});
   RecordingWindows windows(program.prompts.log);
-  Main(program.session, windows);
+  EXPECT_TRUE(Main(program.session, windows));
   EXPECT_EQ(program.prompts.log,
             (std::vector<std::string>{"splash", "modal frmOptions", "load main", "unload splash",
                                       "show main"}));
@@ -134,10 +134,27 @@ TEST(Startup, WithoutACharacterDirectoryTheOptionsComeFirstAndCountFromTheNextSt
 
   // The next start has all of it and asks nothing.
   program.prompts.TakeLog();
-  Main(program.session, windows);
+  EXPECT_TRUE(Main(program.session, windows));
   EXPECT_EQ(settings.NG3Dir, "E:\\people");
   EXPECT_EQ(program.prompts.log.front(), "splash");
   EXPECT_EQ(program.prompts.log.size(), 4U);
+}
+
+TEST(Startup, AnErrorEndsIt) {
+  struct LockedSettings : FakeUserSettings {
+    int Get(const std::string&, const std::string&, int) override {
+      throw RuntimeError(ErrorNumber::PermissionDenied);
+    }
+  };
+  FakeFiles files;
+  files.Put("C:\\tracker\\tracker.ini", "[NGtracker]\nNG3Dir=E:\\people");
+  ScriptedUniform uniform;
+  ScriptedPrompts prompts;
+  LockedSettings userSettings;
+  Session session{{files, uniform, prompts, userSettings, {{}, "C:\\tracker"}, {}}};
+  RecordingWindows windows(prompts.log);
+  EXPECT_FALSE(Main(session, windows));
+  EXPECT_EQ(prompts.log, (std::vector<std::string>{"splash", "message \"Permission denied\""}));
 }
 
 TEST(Options, AFailedWriteIsReportedAndLeavesTheDialogAndTheOldFile) {

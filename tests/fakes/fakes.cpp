@@ -63,6 +63,15 @@ std::vector<std::string> FakeFiles::List(const std::string& directory, std::stri
   return names;
 }
 
+void Script::Check() const {
+  if (!unforeseen_.empty()) throw std::logic_error(unforeseen_);
+}
+
+void Script::Fail(const std::string& unforeseen) {
+  unforeseen_ = unforeseen;
+  throw std::logic_error(unforeseen);
+}
+
 float ScriptedUniform::ValueFor(int number, int n) {
   for (int step = 0; step < 1 << 24; ++step) {
     const float value = static_cast<float>(step) * 0x1p-24F;
@@ -78,7 +87,7 @@ void ScriptedUniform::PushFaces(std::initializer_list<int> faces) {
 
 float ScriptedUniform::Next() {
   if (values_.empty()) {
-    if (repeated_ < 0) throw std::logic_error("the scripted random values have run out");
+    if (repeated_ < 0) Fail("the scripted random values have run out");
     return repeated_;
   }
   const float value = values_.front();
@@ -90,7 +99,7 @@ std::vector<std::string> ScriptedPrompts::TakeLog() { return std::exchange(log, 
 
 ScriptedPrompts::Answer ScriptedPrompts::TakeAnswer(const std::string& question) {
   log.push_back(question);
-  if (answers.empty()) throw std::logic_error("unexpected question: " + question);
+  if (answers.empty()) Fail("unexpected question: " + question);
   Answer answer = answers.front();
   answers.pop_front();
   return answer;

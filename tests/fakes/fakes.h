@@ -38,8 +38,22 @@ class FakeFiles : public Files {
   std::map<std::string, std::string> names_;
 };
 
+/// What a test says in advance. Whatever it did not foresee ends the test: it is thrown at once,
+/// and kept, since the door lets no exception out.
+class Script {
+ public:
+  /// Throws what was not foreseen so far.
+  void Check() const;
+
+ protected:
+  [[noreturn]] void Fail(const std::string& unforeseen);
+
+ private:
+  std::string unforeseen_;
+};
+
 /// Gives the values told, and fails the test when they run out.
-class ScriptedUniform : public Uniform {
+class ScriptedUniform : public Uniform, public Script {
  public:
   /// The values for which RandomInt(6) shows these faces.
   void PushFaces(std::initializer_list<int> faces);
@@ -60,7 +74,7 @@ class ScriptedUniform : public Uniform {
 
 /// Answers the program's questions from a queue and records all that was shown and asked. An
 /// unexpected question ends the test.
-class ScriptedPrompts : public Prompts {
+class ScriptedPrompts : public Prompts, public Script {
  public:
   struct Answer {
     enum class Kind { Input, File, Cancel, Save, Discard, Modal };

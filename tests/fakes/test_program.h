@@ -53,6 +53,8 @@ struct TestProgram {
 
   void Do(const std::string& control, int index = 0, const std::string& text = {}) {
     session.Do({control, index, text});
+    prompts.Check();
+    uniform.Check();
   }
 
   /// Picks these rows of the loader's file list.

@@ -153,6 +153,7 @@ class Player {
     }
     if (!session_) throw std::runtime_error("the program is not started");
     session_->Do(act);
+    prompts_.Check();
   }
 
   void Start() {
@@ -162,7 +163,7 @@ class Player {
     shown_ = TakeSnapshot(*session_);
     prompts_.perform = [this](const Act& act) { session_->Do(act); };
     NoWindows windows;
-    Main(*session_, windows);
+    if (!Main(*session_, windows)) throw std::runtime_error("the program does not start");
   }
 
   std::ostream& transcript_;

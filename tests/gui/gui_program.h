@@ -87,7 +87,7 @@ class GuiProgram : private StartupWindows {
 
   void Start() {
     ApplyTheme(*qApp, Theme::Light());
-    Main(session, *this);
+    if (!Main(session, *this)) qFatal("the program does not start");
     TakeKeys();
   }
 

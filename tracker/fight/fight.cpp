@@ -5,6 +5,10 @@
 
 namespace ng {
 
+const PlayerRecord& Fight::RecordOf(Slot slot) const {
+  return Players[slot >= 0 && slot <= kLastSlot ? slot : Slot(0)];
+}
+
 Integer Fight::CountPlayers() const {
   int count = 0;
   for (const Slot slot : AllSlots()) {

@@ -234,6 +234,15 @@ void MainWindow::PaintCounts() {
   ShowText(*roller_, off ? tr("Roller off") : tr("Roller on"));
 }
 
+void MainWindow::KeepPlace(const QRect& place) {
+  const WindowLayout layout = KeptLayout(place);
+  session_.Do({"MainLeft", layout.MainLeft});
+  session_.Do({"MainTop", layout.MainTop});
+  session_.Do({"MainWidth", layout.MainWidth});
+  session_.Do({"MainHeight", layout.MainHeight});
+  session_.Do({"Form_Unload"});
+}
+
 void MainWindow::closeEvent(QCloseEvent* event) {
   if (!session_.main.closing) {
     // Not by Do(): a window that is being closed goes without a word when it is closed once more.
@@ -247,10 +256,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   // The place that a maximised window goes back to has no frame round it.
   const QPoint frame = geometry().topLeft() - pos();
   const bool plain = !isMaximized() && !isFullScreen();
-  session_.main.layout =
-      KeptLayout(plain ? QRect(pos(), size())
-                       : QRect(normalGeometry().topLeft() - frame, normalGeometry().size()));
-  session_.main.Form_Unload();
+  KeepPlace(plain ? QRect(pos(), size())
+                  : QRect(normalGeometry().topLeft() - frame, normalGeometry().size()));
   event->accept();
   // The other windows go with the main window.
   QCoreApplication::exit(0);

@@ -44,6 +44,8 @@ class MainWindow : public QMainWindow {
   void BuildRightPane(QWidget* parent);
   void BuildStatusBar();
   void Place();
+  /// Keeps the place for the next start.
+  void KeepPlace(const QRect& place);
   void BringToFront(const Act& act);
   void FindLists();
   void PaintMarks();

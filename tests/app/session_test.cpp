@@ -1,0 +1,93 @@
+#include "app/session.h"
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <new>
+#include <stdexcept>
+
+#include "fakes/test_program.h"
+#include "golden/snapshot.h"
+
+namespace ng {
+namespace {
+
+using Log = std::vector<std::string>;
+
+struct FaultyUniform : Uniform {
+  std::function<void()> fault = [] {};
+  float Next() override {
+    fault();
+    return 0;
+  }
+};
+
+struct FaultyPrompts : ScriptedPrompts {
+  void Message(std::string_view text) override {
+    ScriptedPrompts::Message(text);
+    if (deaf) throw std::bad_alloc();
+  }
+  bool deaf = false;
+};
+
+TEST(Session, WhateverIsThrownIsToldAndTheProgramGoesOn) {
+  const std::vector<std::pair<std::function<void()>, Log>> cases = {
+      {[] { ThrowOverflow(); }, {"message \"Overflow\""}},
+      {[] { throw std::bad_alloc(); },
+       {"message \"The command could not be finished: std::bad_alloc\""}},
+      {[] { throw 7; }, {"message \"The command could not be finished: unknown fault\""}},
+      {[] {}, {"beep"}}};
+  FakeFiles files;
+  FaultyUniform uniform;
+  FaultyPrompts prompts;
+  FakeUserSettings userSettings;
+  Session session{{files, uniform, prompts, userSettings, {{}, "C:\\tracker"}, {}}};
+  EXPECT_TRUE(session.Do({"ngdr.txtNumDice", 0, "1"}));
+  for (const auto& [fault, log] : cases) {
+    uniform.fault = fault;
+    EXPECT_EQ(session.Do({"ngdr.cmdRoll"}), log.front() == "beep");
+    EXPECT_EQ(prompts.TakeLog(), log);
+  }
+  uniform.fault = cases[1].first;
+  prompts.deaf = true;
+  EXPECT_FALSE(session.Do({"ngdr.cmdRoll"}));
+  EXPECT_THROW(session.Do({"mnuNowhere"}), std::invalid_argument);
+}
+
+TEST(Session, TheWindowComesBackToItsPlace) {
+  constexpr std::pair<const char*, int WindowLayout::*> kEdges[] = {
+      {"MainLeft", &WindowLayout::MainLeft},
+      {"MainTop", &WindowLayout::MainTop},
+      {"MainWidth", &WindowLayout::MainWidth},
+      {"MainHeight", &WindowLayout::MainHeight}};
+  TestProgram program;
+  int twips = -300;
+  for (const auto& [name, edge] : kEdges) program.Do(name, twips += 100);
+  program.Do("Form_Unload");
+  for (const auto& [name, edge] : kEdges) program.Do(name, 1);
+  program.Do("Form_Load");
+  twips = -300;
+  for (const auto& [name, edge] : kEdges) EXPECT_EQ(program.main.layout.*edge, twips += 100);
+}
+
+/// A state file may hold any number. Whatever the windows show, showing it ends nothing.
+TEST(Session, EveryNumberCanBeShown) {
+  for (const int number : {-32768, -1, 4, 100, 101, 500, 32767}) {
+    TestProgram program;
+    PlayerRecord& vex = program.Add("Vex", 12);
+    Fight& fight = program.fight;
+    fight.CurrentPCpointer = 1;
+    vex.SkillWeapType = 1;
+    vex.RangeSelPrim = number;
+    program.Do("ngdr.tabTest");
+    for (const FightField& field : FightFields()) {
+      if (field.member != &Fight::NumPlayers) fight.*field.member = number;
+    }
+    EXPECT_NO_THROW(TakeSnapshot(program.session)) << number;
+    // Nothing is asked of the combatant displayed, and the pool follows whoever that is.
+    program.Do("ngdr.Hide");
+    EXPECT_EQ(program.prompts.TakeLog(), Log()) << number;
+  }
+}
+
+}  // namespace
+}  // namespace ng
