@@ -47,10 +47,10 @@ Legend::Legend(QWidget* parent) : QWidget(parent) {
     row->addWidget(label);
     row->addSpacing(2);
   };
-  add({12, 12}, QColor(0, 255, 0), 1, tr("turn"));
-  add({12, 12}, QColor(255, 255, 0), 1, tr("delay"));
-  add({12, 12}, QColor(255, 0, 0), 1, tr("inactive"));
-  add({20, 14}, Qt::white, 2, tr("shown"));
+  add({12, 12}, QColor(0, 255, 0), 1, "turn");
+  add({12, 12}, QColor(255, 255, 0), 1, "delay");
+  add({12, 12}, QColor(255, 0, 0), 1, "inactive");
+  add({20, 14}, Qt::white, 2, "shown");
   row->addStretch();
 }
 
