@@ -201,7 +201,14 @@ void MainForm::GridX_Click(int row) {
 void MainForm::GridX_Cell(int row, int column) { GridX.SetCurrent(row, column); }
 
 void MainForm::GridX_KeyPress(int code) {
-  if (!GridX.TypeCharacter(code)) return;
+  if (GridX.TypeCharacter(code)) TakeCell();
+}
+
+void MainForm::GridX_Restore() {
+  if (GridX.RestoreText()) TakeCell();
+}
+
+void MainForm::TakeCell() {
   const Slot slot = fight.InitOrder[GridX.CurrentRow()];
   if (slot == 0) return;
   const auto& text = GridX.RowAt(GridX.CurrentRow()).text;
@@ -215,6 +222,8 @@ void MainForm::GridX_KeyPress(int code) {
 }
 
 void MainForm::ShowRoller() {
+  // A stray letter must not wipe out a roll.
+  if (!IsWholeNumber(text[InitiativeGrid::kRollColumn])) return;
   if (environment_.settings.DisableNGDR) {
     statusMessage = "The dice roller is switched off in the options";
     return;
