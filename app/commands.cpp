@@ -200,6 +200,7 @@ const auto kCommands = std::to_array<Command>({
     {"GridX_Click", MainIndexed<&MainForm::GridX_Click>},
     {"GridX_KeyPress", MainIndexed<&MainForm::GridX_KeyPress>},
     {"GridX_Roll", [](Session& s, const Act& a) { s.main.GridX_Cell(a.index, 1); }},
+    {"GridX_Restore", Main<&MainForm::GridX_Restore>},
     {"GridX_PM", [](Session& s, const Act& a) { s.main.GridX_Cell(a.index, 2); }},
     {"GridX_Name", [](Session& s, const Act& a) { s.main.GridX_Cell(a.index, 0); }},
 

@@ -155,13 +155,16 @@ class MainForm : private SequencerHost, private DiceRoller::Weapons {
   void GridX_Click(int row);
   /// Moves the current cell without displaying anybody.
   void GridX_Cell(int row, int column);
-  /// Edits the current cell. The Roll column goes into `RRSLT` at once, the
-  /// third one stands until the next change of damage.
+  /// Edits the current cell. A whole number in the Roll column goes into `RRSLT` at once; any other
+  /// text there is only shown until the grid is written again. The third column's text is kept
+  /// until the next change of damage.
   void GridX_KeyPress(int code);
 
   // The sheet. With nobody displayed these do nothing.
   void optInitMode(int option);
   void txtRRSLT_Change(const std::string& text);
+  /// Takes back what was typed into the current cell.
+  void GridX_Restore();
   void txtInit_Change(int index, const std::string& text);
   void txtReac_Change(int index, const std::string& text);
   /// A box of the combat page was edited: takes the text over into the record at once.
@@ -229,6 +232,8 @@ class MainForm : private SequencerHost, private DiceRoller::Weapons {
 
   bool Displaying() const { return fight.CurrentPCpointer != 0; }
   PlayerRecord& Displayed() { return fight.Players[fight.CurrentPCpointer]; }
+  /// What was typed into the current cell goes into its record.
+  void TakeCell();
   template <typename Table>
   void Take(Table& table, Loaded<Table> loaded);
   /// Shows what an action may have changed of the displayed combatant.

@@ -15,7 +15,7 @@ const TurnLook& LookOf(RowColour colour) {
 }
 
 TurnState TurnStateOf(const Fight& fight, Slot slot) {
-  if (slot == 0) return TurnState::Nobody;
+  if (slot <= 0 || slot > Fight::kLastSlot) return TurnState::Nobody;
   const PlayerRecord& record = fight.Players[slot];
   if (record.inactive) return TurnState::Inactive;
   if (record.Delay) return TurnState::Delayed;

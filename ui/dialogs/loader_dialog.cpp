@@ -41,7 +41,7 @@ LoaderDialog::LoaderDialog(Session& session, QWidget* parent)
   setWindowTitle(QString::fromLatin1(LoaderForm::kCaption));
   resize(596, 398);
   files_->setObjectName(QStringLiteral("filesXML"));
-  files_->setAccessibleName(tr("Files"));
+  files_->setAccessibleName("Files");
   files_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   BuildLayout();
   Connect();
@@ -58,10 +58,10 @@ void LoaderDialog::BuildLayout() {
   QString hint = QString::fromLatin1(LoaderForm::kHint);
   auto* hintLabel = new QLabel(hint.replace(QLatin1String("&&"), QLatin1String("&")), this);
   hintLabel->setProperty("tone", "muted");
-  auto* load = new QPushButton(tr("&Load"), this);
+  auto* load = new QPushButton("&Load", this);
   load->setObjectName(QStringLiteral("cmdLoad"));
   load->setDefault(true);
-  auto* cancel = new QPushButton(tr("Cancel"), this);
+  auto* cancel = new QPushButton("Cancel", this);
   cancel->setObjectName(QStringLiteral("cmdCancel"));
   cancel->setAutoDefault(false);
   auto* buttons = new QHBoxLayout;

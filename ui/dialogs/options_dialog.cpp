@@ -22,22 +22,21 @@ namespace {
 
 /// What the directories are for, to whom has not seen the program before.
 QString FirstStartText() {
-  return OptionsDialog::tr(
-      "Welcome. Please say where the character files (*.ng3) lie that you import combatants from, "
-      "and where Forgekit's DATA directory is, with the tables of gear, ranges and skills that the "
-      "import needs.");
+  return "Welcome. Please say where the character files (*.ng3) lie that you import combatants "
+         "from, "
+         "and where Forgekit's DATA directory is, with the tables of gear, ranges and skills that "
+         "the "
+         "import needs.";
 }
 
 /// At the first start the dialog comes before the settings are read, all but the character
 /// directory; later on only the character directory is asked for again and again.
 QString TimeText(OptionsDialog::Occasion occasion) {
   return occasion == OptionsDialog::Occasion::FirstStart
-             ? OptionsDialog::tr(
-                   "The character directory takes effect at the next start; for today, find the "
-                   "files in the Open dialog. All else takes effect now.")
-             : OptionsDialog::tr(
-                   "The character directory takes effect at once. The tables of the DATA directory "
-                   "are read, and the two switches take effect, at the next start.");
+             ? "The character directory takes effect at the next start; for today, find the "
+               "files in the Open dialog. All else takes effect now."
+             : "The character directory takes effect at once. The tables of the DATA directory "
+               "are read, and the two switches take effect, at the next start.";
 }
 
 }  // namespace
@@ -45,7 +44,7 @@ QString TimeText(OptionsDialog::Occasion occasion) {
 OptionsDialog::OptionsDialog(Session& session, Occasion occasion, QWidget* parent)
     : QDialog(parent), session_(session) {
   setObjectName(QStringLiteral("frmOptions"));
-  setWindowTitle(tr("Options"));
+  setWindowTitle("Options");
   resize(720, 470);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(12, 10, 12, 12);
@@ -58,8 +57,8 @@ OptionsDialog::OptionsDialog(Session& session, Occasion occasion, QWidget* paren
   }
   auto* groups = new QHBoxLayout;
   groups->setSpacing(8);
-  characters_ = AddGroup(*groups, tr("Character directory"), "NG3");
-  data_ = AddGroup(*groups, tr("DATA directory"), "Dat");
+  characters_ = AddGroup(*groups, "Character directory", "NG3");
+  data_ = AddGroup(*groups, "DATA directory", "Dat");
   column->addLayout(groups, 1);
   column->addWidget(BuildSwitches());
   auto* time = new QLabel(TimeText(occasion), this);
@@ -88,10 +87,10 @@ OptionsDialog::Group OptionsDialog::AddGroup(QBoxLayout& row, const QString& tit
   column->setSpacing(6);
   column->addWidget(picker->Drives());
   column->addWidget(picker->Tree(), 1);
-  auto* browse = new QPushButton(tr("Browse..."), box);
+  auto* browse = new QPushButton("Browse...", box);
   browse->setObjectName(QStringLiteral("cmdBrowse") + suffix);
-  browse->setAccessibleName(tr("%1: browse").arg(title));
-  browse->setToolTip(tr("Pick the directory in the system's own chooser"));
+  browse->setAccessibleName(QStringLiteral("%1: browse").arg(title));
+  browse->setToolTip("Pick the directory in the system's own chooser");
   browse->setAutoDefault(false);
   auto* chosen = new QHBoxLayout;
   chosen->setSpacing(6);
@@ -115,13 +114,12 @@ OptionsDialog::Group OptionsDialog::AddGroup(QBoxLayout& row, const QString& tit
 }
 
 QWidget* OptionsDialog::BuildSwitches() {
-  auto* box = new QGroupBox(tr("Switches"), this);
+  auto* box = new QGroupBox("Switches", this);
   auto* column = new QVBoxLayout(box);
   column->setContentsMargins(10, 10, 10, 8);
   column->setSpacing(4);
-  cloneInit_ =
-      AddSwitch(*column, "chkCloneInit", tr("Copies take their original's initiative &roll"));
-  disableRoller_ = AddSwitch(*column, "chkDisableNGDR", tr("Do not &use the dice roller"));
+  cloneInit_ = AddSwitch(*column, "chkCloneInit", "Copies take their original's initiative &roll");
+  disableRoller_ = AddSwitch(*column, "chkDisableNGDR", "Do not &use the dice roller");
   return box;
 }
 
@@ -134,11 +132,11 @@ QCheckBox* OptionsDialog::AddSwitch(QBoxLayout& column, const char* name, const 
 }
 
 QBoxLayout* OptionsDialog::BuildButtons() {
-  auto* ok = new QPushButton(tr("OK"), this);
+  auto* ok = new QPushButton("OK", this);
   ok->setObjectName(QStringLiteral("cmdOK"));
   ok->setDefault(true);
   connect(ok, &QPushButton::clicked, this, [this] { Do("frmOptions.cmdOK"); });
-  auto* cancel = new QPushButton(tr("Cancel"), this);
+  auto* cancel = new QPushButton("Cancel", this);
   cancel->setObjectName(QStringLiteral("cmdCancel"));
   cancel->setAutoDefault(false);
   connect(cancel, &QPushButton::clicked, this, &OptionsDialog::reject);
@@ -170,7 +168,7 @@ void OptionsDialog::Paint() {
 
 void OptionsDialog::PaintGroup(const Group& group, const std::string& directory) {
   group.picker->ShowDirectory(directory);
-  const QString shown = directory.empty() ? tr("\u2013 none \u2013") : ToQString(directory);
+  const QString shown = directory.empty() ? "\u2013 none \u2013" : ToQString(directory);
   if (group.path->text() == shown) return;
   group.path->setText(shown);
   // Of a path that is too long the end says more.

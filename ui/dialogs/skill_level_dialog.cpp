@@ -14,7 +14,7 @@ SkillLevelDialog::SkillLevelDialog(Session& session, QWidget* parent)
     : QDialog(parent), session_(session) {
   const SkillLevelForm& form = session_.main.skillLevel;
   setObjectName(QStringLiteral("frmSelSkillLevel"));
-  setWindowTitle(tr("Skill Level"));
+  setWindowTitle("Skill Level");
   setMinimumWidth(380);
   QString line = ToQString(form.lblSkill);
   auto* skill = new QLabel(line.replace(QLatin1Char('\t'), QLatin1String("     ")), this);

@@ -112,10 +112,10 @@ void MainWindow::BuildRightPane(QWidget* parent) {
   tabs->setDocumentMode(true);
   tabs->tabBar()->setDrawBase(false);
   auto* pages = tabs->findChild<QStackedWidget*>();
-  tabs->addTab(new CombatPage(pages), tr("&1 Combat"));
-  tabs->addTab(new GearPage(pages), tr("&2 Gear"));
-  tabs->addTab(new PersonPage(pages), tr("&3 Person"));
-  tabs->addTab(new NotesPage(pages), tr("&4 Notes"));
+  tabs->addTab(new CombatPage(pages), "&1 Combat");
+  tabs->addTab(new GearPage(pages), "&2 Gear");
+  tabs->addTab(new PersonPage(pages), "&3 Person");
+  tabs->addTab(new NotesPage(pages), "&4 Notes");
   auto* column = new QVBoxLayout(pane);
   column->setContentsMargins(0, kMargin, kMargin, kGap);
   column->setSpacing(4);
@@ -226,12 +226,12 @@ void MainWindow::PaintColours() {
 void MainWindow::PaintCounts() {
   const MainForm& form = session_.main;
   const int count = form.GridX.RowCount();
-  ShowText(*combatants_, count == 1 ? tr("1 combatant") : tr("%1 combatants").arg(count));
-  ShowText(*combatTurn_, tr("Combat turn %1").arg(form.fight.RoundCount.Value()));
+  ShowText(*combatants_, count == 1 ? "1 combatant" : QStringLiteral("%1 combatants").arg(count));
+  ShowText(*combatTurn_, QStringLiteral("Combat turn %1").arg(form.fight.RoundCount.Value()));
   const int pass = form.fight.PhaseCnt.Value();
-  ShowText(*pass_, pass > kLastPass ? tr("Turn over") : tr("Pass %1").arg(pass));
+  ShowText(*pass_, pass > kLastPass ? "Turn over" : QStringLiteral("Pass %1").arg(pass));
   const bool off = static_cast<bool>(session_.environment.settings.DisableNGDR);
-  ShowText(*roller_, off ? tr("Roller off") : tr("Roller on"));
+  ShowText(*roller_, off ? "Roller off" : "Roller on");
 }
 
 void MainWindow::KeepPlace(const QRect& place) {

@@ -29,7 +29,7 @@ class TopicWriter {
  public:
   explicit TopicWriter(const HelpForm& form) : wanted_(ToQString(form.txtFilter)) {
     if (form.lstTopicsIndex < 0) {
-      AddParagraph(HelpWindow::tr("The help says nothing about this."), "margin-top:6px");
+      AddParagraph("The help says nothing about this.", "margin-top:6px");
       return;
     }
     AddParagraph(Escaped(ToQString(form.lstTopics[static_cast<std::size_t>(form.lstTopicsIndex)])),
@@ -117,21 +117,20 @@ class TopicWriter {
 }  // namespace
 
 HelpWindow::HelpWindow(const Perform& perform, QWidget* parent)
-    : SideWindow(QStringLiteral("frmHelp"), tr("Help"), "frmHelp.Close", perform, parent) {
+    : SideWindow(QStringLiteral("frmHelp"), "Help", "frmHelp.Close", perform, parent) {
   setMinimumSize(kLeastSize);
   resize(kSize);
-  filter_ = MakeBox({QStringLiteral("txtFilter"), tr("Find in the help"),
-                     TipWithKey(tr("Show the lines that contain this"), tr("Ctrl+F"))},
+  filter_ = MakeBox({QStringLiteral("txtFilter"), "Find in the help",
+                     TipWithKey("Show the lines that contain this", "Ctrl+F")},
                     kTopicsWidth, this);
   filter_->setAlignment(Qt::AlignLeft);
-  filter_->setPlaceholderText(tr("Find"));
+  filter_->setPlaceholderText("Find");
   filter_->setClearButtonEnabled(true);
-  topics_ = MakePlainList({QStringLiteral("lstTopics"), tr("Topics"), tr("The topics of the help")},
-                          this);
+  topics_ = MakePlainList({QStringLiteral("lstTopics"), "Topics", "The topics of the help"}, this);
   topics_->setFixedWidth(kTopicsWidth);
   topic_ = new QTextBrowser(this);
   topic_->setObjectName(QStringLiteral("txtTopic"));
-  topic_->setAccessibleName(tr("Text of the topic"));
+  topic_->setAccessibleName("Text of the topic");
   // Keys and names stay whole in narrow columns.
   topic_->setWordWrapMode(QTextOption::WordWrap);
   topic_->document()->setDocumentMargin(kGroupPadding);

@@ -18,17 +18,16 @@ constexpr int kNameColumn = 140;
 }  // namespace
 
 InfoWindow::InfoWindow(const Perform& perform, QWidget* parent)
-    : SideWindow(QStringLiteral("frmInfo"), tr("Item Information"), "frmInfo.Close", perform,
-                 parent) {
+    : SideWindow(QStringLiteral("frmInfo"), "Item Information", "frmInfo.Close", perform, parent) {
   resize(420, 470);
   item_ = MakeValue(QStringLiteral("lblItem"), this);
   item_->setTextFormat(Qt::PlainText);
   item_->setWordWrap(true);
-  figures_ = MakeList({QStringLiteral("lstFigures"), tr("Figures of the item"),
-                       tr("Every figure that the character file gives")},
-                      {ListColumn{tr("Figure"), kNameColumn}, ListColumn{tr("Value")}}, this);
+  figures_ = MakeList({QStringLiteral("lstFigures"), "Figures of the item",
+                       "Every figure that the character file gives"},
+                      {ListColumn{"Figure", kNameColumn}, ListColumn{"Value"}}, this);
   reference_ = MakeEntryText(QStringLiteral("txtReference"), this);
-  reference_->setPlaceholderText(tr("The reference file says nothing about it."));
+  reference_->setPlaceholderText("The reference file says nothing about it.");
   auto* column = new QVBoxLayout(this);
   SetEdges(*column);
   column->addWidget(item_);

@@ -34,8 +34,8 @@ void FollowLines(QTreeWidget& list, std::vector<std::string>& shown,
 QPlainTextEdit* MakeEntryText(const QString& name, QWidget* parent) {
   auto* text = new QPlainTextEdit(parent);
   text->setObjectName(name);
-  text->setAccessibleName(QObject::tr("Text of the entry"));
-  text->setToolTip(QObject::tr("What the reference file says"));
+  text->setAccessibleName("Text of the entry");
+  text->setToolTip("What the reference file says");
   text->setReadOnly(true);
   text->setTabChangesFocus(true);
   return text;
@@ -48,21 +48,21 @@ void ShowEntry(QPlainTextEdit& widget, const std::string& entry) {
 }
 
 GmWindow::GmWindow(const Perform& perform, QWidget* parent)
-    : SideWindow(QStringLiteral("frmGM"), tr("Game Master"), "frmGM.Close", perform, parent) {
+    : SideWindow(QStringLiteral("frmGM"), "Game Master", "frmGM.Close", perform, parent) {
   resize(420, 350);
-  lines_ = MakePlainList({QStringLiteral("lstGMinfo"), tr("Game master's notes"),
-                          tr("What happened, and the notes that you added")},
+  lines_ = MakePlainList({QStringLiteral("lstGMinfo"), "Game master's notes",
+                          "What happened, and the notes that you added"},
                          this);
-  auto* add = MakeButton(
-      {QStringLiteral("cmdAddNote"), tr("Add a note"), tr("Add a line of your own to the list")},
-      tr("&Add Note"), this);
+  auto* add =
+      MakeButton({QStringLiteral("cmdAddNote"), "Add a note", "Add a line of your own to the list"},
+                 "&Add Note", this);
   add->setDefault(true);
-  auto* log = MakeButton({QStringLiteral("cmdViewLog"), tr("View the log file"),
-                          tr("Show what the log file holds of this and earlier evenings")},
-                         tr("&View Log"), this);
-  auto* shut = MakeButton({QStringLiteral("cmdClose"), tr("Close the window"),
-                           TipWithKey(tr("Close the window"), tr("Esc"))},
-                          tr("Close"), this);
+  auto* log = MakeButton({QStringLiteral("cmdViewLog"), "View the log file",
+                          "Show what the log file holds of this and earlier evenings"},
+                         "&View Log", this);
+  auto* shut = MakeButton(
+      {QStringLiteral("cmdClose"), "Close the window", TipWithKey("Close the window", "Esc")},
+      "Close", this);
   connect(add, &QPushButton::clicked, this, [this] { Do({"frmGM.cmdAddNote"}); });
   connect(log, &QPushButton::clicked, this, [this] { Do({"frmGM.cmdViewLog"}); });
   connect(shut, &QPushButton::clicked, this, [this] { reject(); });
@@ -85,15 +85,14 @@ void GmWindow::Paint(const MainForm& form) {
 }
 
 LogWindow::LogWindow(const Perform& perform, QWidget* parent)
-    : SideWindow(QStringLiteral("frmDisplay"), tr("Log"), "frmDisplay.cmdClose", perform, parent) {
+    : SideWindow(QStringLiteral("frmDisplay"), "Log", "frmDisplay.cmdClose", perform, parent) {
   resize(420, 350);
   lines_ = MakePlainList(
-      {QStringLiteral("lstDisplay"), tr("Lines of the log file"), tr("Every line of the log file")},
-      this);
+      {QStringLiteral("lstDisplay"), "Lines of the log file", "Every line of the log file"}, this);
   count_ = MakeCaption({}, this);
-  auto* shut = MakeButton({QStringLiteral("cmdClose"), tr("Close the window"),
-                           TipWithKey(tr("Close the window"), tr("Esc"))},
-                          tr("Close"), this);
+  auto* shut = MakeButton(
+      {QStringLiteral("cmdClose"), "Close the window", TipWithKey("Close the window", "Esc")},
+      "Close", this);
   connect(shut, &QPushButton::clicked, this, [this] { reject(); });
   auto* row = MakeRow(kGroupGap);
   row->addWidget(count_, 1);
@@ -107,24 +106,24 @@ LogWindow::LogWindow(const Perform& perform, QWidget* parent)
 void LogWindow::Paint(const MainForm& form) {
   FollowLines(*lines_, shown_, form.logViewer.lstDisplay);
   const auto count = form.logViewer.lstDisplay.size();
-  count_->setText(count == 1 ? tr("1 line") : tr("%1 lines").arg(count));
+  count_->setText(count == 1 ? "1 line" : QStringLiteral("%1 lines").arg(count));
   SetOpen(form.logViewer.open);
 }
 
 ReferenceWindow::ReferenceWindow(const Perform& perform, QWidget* parent)
-    : SideWindow(QStringLiteral("frmReference"), tr("Reference"), "frmReference.Close", perform,
+    : SideWindow(QStringLiteral("frmReference"), "Reference", "frmReference.Close", perform,
                  parent) {
   resize(620, 400);
-  filter_ = MakeBox({QStringLiteral("txtFilter"), tr("Part of the name"),
-                     tr("Show the entries whose name contains this")},
+  filter_ = MakeBox({QStringLiteral("txtFilter"), "Part of the name",
+                     "Show the entries whose name contains this"},
                     0, this);
   filter_->setMinimumWidth(180);
   filter_->setMaximumWidth(QWIDGETSIZE_MAX);
   filter_->setAlignment(Qt::AlignLeft);
-  filter_->setPlaceholderText(tr("Part of the name"));
+  filter_->setPlaceholderText("Part of the name");
   filter_->setClearButtonEnabled(true);
   names_ = MakePlainList(
-      {QStringLiteral("lstNames"), tr("Entries"), tr("The entries of the reference file")}, this);
+      {QStringLiteral("lstNames"), "Entries", "The entries of the reference file"}, this);
   entry_ = MakeEntryText(QStringLiteral("txtEntry"), this);
   connect(filter_, &QLineEdit::textEdited, this, [this](const QString& text) {
     Do({"frmReference.txtFilter", 0, FromQString(text)});

@@ -46,9 +46,9 @@ DirectoryPicker::DirectoryPicker(const QString& drivesName, const QString& treeN
       tree_(new QTreeView(parent)),
       model_(new QFileSystemModel(this)) {
   drives_->setObjectName(drivesName);
-  drives_->setAccessibleName(tr("Drives"));
+  drives_->setAccessibleName("Drives");
   tree_->setObjectName(treeName);
-  tree_->setAccessibleName(tr("Directory"));
+  tree_->setAccessibleName("Directory");
   FillDrives();
   BuildTree();
   connect(drives_, &QComboBox::activated, this, [this](int index) {

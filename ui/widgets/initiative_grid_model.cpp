@@ -34,12 +34,12 @@ QFont RowFont(bool shown) {
 QString TipOf(int column) {
   switch (column) {
     case InitiativeGrid::kNameColumn:
-      return InitiativeGridModel::tr("In the order of the net initiative");
+      return "In the order of the net initiative";
     case InitiativeGrid::kRollColumn:
-      return InitiativeGridModel::tr("Initiative rolled; the wound modifier comes off it (Net)");
+      return "Initiative rolled; the wound modifier comes off it (Net)";
     default:
-      return InitiativeGridModel::tr(
-          "Condition: stun first, then physical. L light, M moderate, S serious, D deadly, 0 none");
+      return "Condition: stun first, then physical. L light, M moderate, S serious, D deadly, 0 "
+             "none";
   }
 }
 

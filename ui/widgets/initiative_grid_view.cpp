@@ -49,7 +49,7 @@ bool IsEnter(int key) { return key == Qt::Key_Return || key == Qt::Key_Enter; }
 InitiativeGridView::InitiativeGridView(Perform perform, QWidget* parent)
     : QTableView(parent), perform_(std::move(perform)) {
   setObjectName(QStringLiteral("GridX"));
-  setAccessibleName(tr("Combatants in initiative order"));
+  setAccessibleName("Combatants in initiative order");
   setModel(&model_);
   setItemDelegate(new CellDelegate(this));
   setShowGrid(false);
@@ -215,9 +215,9 @@ void InitiativeGridView::PaintHint(QPainter& painter) const {
   painter.setFont(InterfaceFont(10));
   painter.setPen(Theme::Current().muted);
   painter.drawText(viewport()->rect().adjusted(14, 17, -4, 0), Qt::AlignLeft | Qt::AlignTop,
-                   tr("No combatants yet.\nImport characters with\nOpen (Ctrl+O), or take up\n"
-                      "a saved fight with\nFile \u203a Load State (Ctrl+L).\n"
-                      "Files may be dropped here, too.\n\nHelp (F1) tells how a turn runs."));
+                   "No combatants yet.\nImport characters with\nOpen (Ctrl+O), or take up\n"
+                   "a saved fight with\nFile \u203a Load State (Ctrl+L).\n"
+                   "Files may be dropped here, too.\n\nHelp (F1) tells how a turn runs.");
 }
 
 void InitiativeGridView::PaintFrames(QPainter& painter) const {

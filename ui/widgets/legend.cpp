@@ -53,7 +53,7 @@ Legend::Legend(QWidget* parent) : QWidget(parent) {
     if (look.colour == RowColour::White) continue;
     add({12, 12}, ToQColor(look.colour), 1, ToQString(look.legend));
   }
-  add({20, 14}, Qt::white, 2, tr("shown"));
+  add({20, 14}, Qt::white, 2, "shown");
   row->addStretch();
 }
 

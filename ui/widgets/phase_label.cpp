@@ -17,7 +17,7 @@ constexpr std::array<double, 4> kSizes = {14, 12, 11, 10};
 
 PhaseLabel::PhaseLabel(QWidget* parent) : QLabel(parent) {
   setObjectName(QStringLiteral("lblPhase"));
-  setAccessibleName(tr("Step of the combat turn"));
+  setAccessibleName("Step of the combat turn");
   setFrameShape(StyledPanel);
   setFixedHeight(kHeight);
   setIndent(kPadding);

@@ -83,7 +83,7 @@ void BuildMenus(QMainWindow& window, const Perform& perform) {
 }
 
 void BuildToolbar(QMainWindow& window) {
-  auto* bar = window.addToolBar(QObject::tr("Toolbar"));
+  auto* bar = window.addToolBar("Toolbar");
   bar->setObjectName(QStringLiteral("toolBar"));
   bar->setMovable(false);
   bar->setFloatable(false);
