@@ -7,7 +7,8 @@ void OptionsForm::Form_Load() {
   if (written_) {
     stored = *written_;
   } else {
-    ReadSettings(files_, location_, stored);
+    ProfileReader profile(files_, location_);
+    ReadSettings(profile, stored);
   }
   // In the run that asked for it the directory is not in force yet, but it has been chosen.
   dirNG3 = settings_.NG3Dir.empty() && written_ ? written_->NG3Dir : settings_.NG3Dir;

@@ -22,7 +22,7 @@ Integer EarlierImports(const Fight& fight, const std::string& fullName) {
 }
 
 ImportedCharacter ReadCharacter(const ImportTarget& target, const std::string& fullName) {
-  ProfileFile file(ReadProfileText(target.files, fullName));
+  ProfileFile file(ReadProfileText(target.files, fullName).value_or(std::string()));
   ImportedCharacter character;
   PlayerRecord& record = character.record;
   record.Name = ImportedName(file);

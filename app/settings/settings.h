@@ -21,11 +21,11 @@ struct Settings {
 };
 
 /// The value of "NG3Dir" in tracker.ini, empty when there is none.
-std::string ReadCharacterDirectory(Files& files, const ProgramLocation& location);
+std::string ReadCharacterDirectory(ProfileReader& profile);
 
 /// Reads the three settings that have a default. `NG3Dir` is left as it is: start-up reads it on
 /// its own, since an empty one opens the options dialog first.
-void ReadSettings(Files& files, const ProgramLocation& location, Settings& settings);
+void ReadSettings(ProfileReader& profile, Settings& settings);
 
 /// The text of tracker.ini. The switches are check box states, written in the print form.
 std::string SettingsText(const Settings& settings);

@@ -65,13 +65,13 @@ TEST(InfoIndex, FindsEntriesAndTheirLines) {
   EXPECT_EQ(info.Matching("").size(), 3U);
   EXPECT_EQ(info.Find("sea"), 2);
   EXPECT_EQ(info.Find("se"), -1);
-  EXPECT_EQ(info.EntryLines(files, 0), (Lines{"No|modifier", "!more of it", ""}));
-  EXPECT_EQ(info.EntryLines(files, 1), Lines{""});
-  EXPECT_EQ(info.EntryLines(files, 2), Lines{"Salt"});
-  EXPECT_EQ(info.EntryLines(files, 3), Lines{});
-  EXPECT_RUNTIME_ERROR(info.EntryLines(files, -1), "Subscript out of range");
+  EXPECT_EQ(info.EntryText(files, 0), "No|modifier\r\n!more of it\r\n");
+  EXPECT_EQ(info.EntryText(files, 1), "");
+  EXPECT_EQ(info.EntryText(files, 2), "Salt");
+  EXPECT_EQ(info.EntryText(files, 3), "");
+  EXPECT_RUNTIME_ERROR(info.EntryText(files, -1), "Subscript out of range");
   files.Put("C:\\info.dat", "! cut short");
-  EXPECT_EQ(info.EntryLines(files, 2), Lines{});
+  EXPECT_EQ(info.EntryText(files, 2), "");
 }
 
 TEST(InfoIndex, TheTwoHundredAndFirstEntryIsTheLast) {
@@ -86,7 +86,7 @@ TEST(InfoIndex, TheTwoHundredAndFirstEntryIsTheLast) {
   EXPECT_EQ(info.Load(files, {"C:\\info.dat"}), "Error opening: Info.dat");
   EXPECT_EQ(info.Count(), 201);
   EXPECT_EQ(info.At(200).line.Value(), 203);
-  EXPECT_EQ(info.EntryLines(files, 200), Lines{"kept"});
+  EXPECT_EQ(info.EntryText(files, 200), "kept");
 }
 
 }  // namespace

@@ -76,7 +76,8 @@ TEST_F(Roller, AnExchangeFromShotToShot) {
 
 TEST_F(Roller, CountsSuccessesAndOnesEvenWithoutTheVisibilityTable) {
   roller.Form_Load(files, "E:");
-  EXPECT_EQ(prompts.TakeLog(), (std::vector<std::string>{"message \"File not found\""}));
+  EXPECT_EQ(prompts.TakeLog(),
+            std::vector<std::string>{"message \"File not found%0D%0AE:\\visability.dat\""});
   uniform.RepeatFace(5);
   roller.vNumDice(32767);
   roller.cmdRoll();
