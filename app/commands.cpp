@@ -182,6 +182,7 @@ const auto kCommands = std::to_array<Command>({
     {"Form_Drop", MainText<&MainForm::Form_Drop>},
     {"GridX_Click", MainIndexed<&MainForm::GridX_Click>},
     {"GridX_KeyPress", MainIndexed<&MainForm::GridX_KeyPress>},
+    {"GridX_Restore", Main<&MainForm::GridX_Restore>},
     {"GridX_Roll", [](Session& s, const Act& a) { s.main.GridX_Cell(a.index, 1); }},
     {"GridX_PM", [](Session& s, const Act& a) { s.main.GridX_Cell(a.index, 2); }},
     {"GridX_Name", [](Session& s, const Act& a) { s.main.GridX_Cell(a.index, 0); }},

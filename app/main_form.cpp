@@ -201,7 +201,14 @@ void MainForm::GridX_Click(int row) {
 void MainForm::GridX_Cell(int row, int column) { GridX.SetCurrent(row, column); }
 
 void MainForm::GridX_KeyPress(int code) {
-  if (!GridX.TypeCharacter(code)) return;
+  if (GridX.TypeCharacter(code)) TakeCell();
+}
+
+void MainForm::GridX_Restore() {
+  if (GridX.RestoreText()) TakeCell();
+}
+
+void MainForm::TakeCell() {
   const Slot slot = fight.InitOrder[GridX.CurrentRow()];
   if (slot == 0) return;
   const auto& text = GridX.RowAt(GridX.CurrentRow()).text;
@@ -210,6 +217,8 @@ void MainForm::GridX_KeyPress(int code) {
     record.CondCode = text[InitiativeGrid::kTextColumn];
     return;
   }
+  // A stray letter must not wipe out a roll.
+  if (!IsWholeNumber(text[InitiativeGrid::kRollColumn])) return;
   record.RRSLT = LenientInteger(text[InitiativeGrid::kRollColumn]);
   if (slot == fight.CurrentPCpointer) header.txtRRSLT = PlainText(record.RRSLT);
 }

@@ -154,9 +154,12 @@ class MainForm : private SequencerHost {
   void GridX_Click(int row);
   /// Moves the current cell without displaying anybody.
   void GridX_Cell(int row, int column);
-  /// Edits the current cell. The Roll column goes into `RRSLT` at once, the
-  /// third one stands until the next change of damage.
+  /// Edits the current cell. A whole number in the Roll column goes into `RRSLT` at once; any other
+  /// text there is only shown until the grid is written again. The third column's text is kept
+  /// until the next change of damage.
   void GridX_KeyPress(int code);
+  /// Takes back what was typed into the current cell.
+  void GridX_Restore();
 
   // The sheet. With nobody displayed these do nothing.
   void optInitMode(int option);
@@ -218,6 +221,7 @@ class MainForm : private SequencerHost {
   std::string RoundsLeft(Weapon weapon) const;
 
  private:
+  void TakeCell();
   void SyncSheet() override;
   void RefreshPools() override;
   void ZeroRoundCounters() override;

@@ -24,6 +24,9 @@ Integer LenientInteger(std::string_view text);
 /// The lenient reading of a 32-bit integer. Overflow outside the range.
 std::int32_t LenientLong(std::string_view text);
 
+/// Whether `text`, apart from blanks round it, is a whole number: digits, with or without a sign.
+bool IsWholeNumber(std::string_view text);
+
 /// The strict reading: apart from blanks round it the whole text must be a whole number, otherwise
 /// "Type mismatch"; Overflow outside the 16-bit range.
 Integer StrictInteger(std::string_view text);

@@ -49,6 +49,7 @@ void Sequencer::SortInitiative() {
     }
   }
   grid_.RefreshGrid();
+  grid_.FollowCombatant();
 }
 
 void Sequencer::Reroll(Boolean copiesShareRoll) {
