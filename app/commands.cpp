@@ -187,6 +187,8 @@ const auto kCommands = std::to_array<Command>({
     {"GridX_PM", [](Session& s, const Act& a) { s.main.GridX_Cell(a.index, 2); }},
     {"GridX_Name", [](Session& s, const Act& a) { s.main.GridX_Cell(a.index, 0); }},
 
+    {"lblLogFailure", [](Session& s, const Act&) { s.main.gmLog.FailureSeen(); }},
+
     {"optInitMode", MainIndexed<&MainForm::optInitMode>},
     {"txtRRSLT", MainText<&MainForm::txtRRSLT_Change>},
     {"txtInit",

@@ -140,7 +140,7 @@ class MainForm : private SequencerHost {
   void mnuPMult();
   void mnuPRemove();
   void mnuViewOptions();
-  void mnuViewGM() { frmGMOpen = true; }
+  void mnuViewGM();
   void mnuViewLog();
   void mnuViewReference() { reference.Form_Load(); }
   void mnuHelpAbout();

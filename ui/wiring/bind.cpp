@@ -10,6 +10,8 @@
 #include <QStyle>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTextCursor>
+#include <QToolButton>
 #include <QTreeWidget>
 #include <utility>
 
@@ -79,6 +81,9 @@ void ShowText(QObject* widget, const QString& text) {
     ShowNote(*note, text);
   } else if (auto* group = qobject_cast<QGroupBox*>(widget)) {
     if (group->title() != text) group->setTitle(text);
+  } else if (auto* button = qobject_cast<QToolButton*>(widget)) {
+    button->setText(text);
+    button->setVisible(!text.isEmpty());
   }
 }
 
