@@ -44,7 +44,7 @@ void ClickSight(Session& session, const Act& act) {
 
 template <int rounds>
 void Fire(Session& session, const Act& act) {
-  session.main.firing.Fire(WeaponOf(act), rounds);
+  session.main.Fire(WeaponOf(act), rounds);
 }
 
 template <SkillUse use>
@@ -216,7 +216,7 @@ const auto kCommands = std::to_array<Command>({
     {"optRangeSel", ChooseRange},
     {"cmdShots1", Fire<1>},
     {"cmdShots3", Fire<3>},
-    {"cmdShotsFA", [](Session& s, const Act& a) { s.main.firing.FullAuto(WeaponOf(a)); }},
+    {"cmdShotsFA", [](Session& s, const Act& a) { s.main.FullAuto(WeaponOf(a)); }},
     {"cmdShotsZ", [](Session& s, const Act& a) { s.main.firing.Reload(WeaponOf(a)); }},
     {"cmdDisarm", [](Session& s, const Act& a) { s.main.cmdDisarm(WeaponOf(a)); }},
     {"cmdSetPrim", [](Session& s, const Act&) { s.main.cmdSetWeapon(Weapon::Primary); }},

@@ -184,6 +184,9 @@ class MainForm : private SequencerHost {
   void WeaponBox_Change(std::string& box, const std::string& text);
   void chkTwoGuns_Click();
   void Sight_Click(Weapon weapon, Sight sight);
+  /// Fires a weapon; says in the status bar when the range does not count for want of a skill.
+  void Fire(Weapon weapon, int rounds);
+  void FullAuto(Weapon weapon);
   void cmdDisarm(Weapon weapon);
   /// Takes the marked line of the weapon list into a hand.
   void cmdSetWeapon(Weapon weapon);
@@ -236,6 +239,7 @@ class MainForm : private SequencerHost {
   /// Takes over the combat pool that a test left of a combatant.
   void SpendPool(Slot slot, Integer left);
   bool WieldsInMelee(Weapon weapon) const;
+  void TellMissingSkill(Weapon weapon, int testsBefore);
   void ToggleCarried(std::vector<CarriedLine> CharacterEntry::*list, int index);
 
   Environment& environment_;
