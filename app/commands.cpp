@@ -179,6 +179,7 @@ const auto kCommands = std::to_array<Command>({
     {"mnuHelpAbout", Main<&MainForm::mnuHelpAbout>, Menu::Help, 1, "&About NGtracker", "Shift+F1",
      "Which version this is, and what it is built on"},
 
+    {"Form_LeftOut", Main<&MainForm::Form_LeftOut>},
     {"Form_Drop", MainText<&MainForm::Form_Drop>},
     {"GridX_Click", MainIndexed<&MainForm::GridX_Click>},
     {"GridX_KeyPress", MainIndexed<&MainForm::GridX_KeyPress>},

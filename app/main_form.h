@@ -117,6 +117,10 @@ class MainForm : private SequencerHost {
   /// Keeps the layout for the next start.
   void Form_Unload();
 
+  /// Says that characters were typed or pasted that the program's files cannot hold.
+  void Form_LeftOut() {
+    statusMessage = "Left out: characters that cannot be saved (outside Windows-1252)";
+  }
   /// Opens files dropped on the window or named at the start; the names are joined by "|".
   void Form_Drop(const std::string& names);
 

@@ -9,6 +9,7 @@
 
 #include "base/code_page.h"
 #include "ui/look/theme.h"
+#include "ui/wiring/code_page_input.h"
 
 namespace ng {
 namespace {
@@ -196,7 +197,11 @@ bool InitiativeGridView::Type(const QKeyEvent& event) {
   }
   if (event.text().isEmpty() || !event.text().front().isPrint()) return false;
   for (const char32_t character : event.text().toUcs4()) {
-    perform_({"GridX_KeyPress", static_cast<unsigned char>(ByteOf(character)), {}});
+    if (InCodePage(character)) {
+      perform_({"GridX_KeyPress", static_cast<unsigned char>(ByteOf(character)), {}});
+    } else {
+      perform_({kLeftOutAct});
+    }
   }
   return true;
 }
