@@ -329,6 +329,14 @@ constexpr auto kToolbarKeys = std::to_array<const char*>(
 
 }  // namespace
 
+std::string PlainWords(std::string_view text) {
+  std::string plain;
+  for (const char c : text) {
+    if (c != '&' && c != '.') plain += c;
+  }
+  return plain;
+}
+
 std::span<const Command> Commands() { return kCommands; }
 
 std::span<const char* const> ToolbarKeys() { return kToolbarKeys; }
