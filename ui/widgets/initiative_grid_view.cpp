@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <algorithm>
 #include <array>
 
@@ -43,6 +44,10 @@ class CellDelegate : public QStyledItemDelegate {
   }
 };
 
+bool IsEscape(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Escape && event.modifiers() == Qt::NoModifier;
+}
+
 bool IsEnter(int key) { return key == Qt::Key_Return || key == Qt::Key_Enter; }
 
 }  // namespace
@@ -81,6 +86,7 @@ void InitiativeGridView::Show(const InitiativeGrid& grid) {
   if (model_.Show(grid)) {
     AutoSizeGrid();
     FitRows();
+    ShowTip();
   }
   const bool moved = currentRow_ != grid.CurrentRow() || currentColumn_ != grid.CurrentColumn();
   currentRow_ = grid.CurrentRow();
@@ -89,9 +95,7 @@ void InitiativeGridView::Show(const InitiativeGrid& grid) {
   if (currentIndex() != current) {
     selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
   }
-  if (!moved) return;
-  if (current.isValid()) scrollTo(current);
-  viewport()->update();
+  if (moved) viewport()->update();
 }
 
 void InitiativeGridView::SetShownRow(int row) {
@@ -129,8 +133,26 @@ void InitiativeGridView::FitRows() {
   }
 }
 
+void InitiativeGridView::ShowTip() {
+  if (!QToolTip::isVisible() || !viewport()->underMouse()) return;
+  const QPoint mouse = QCursor::pos();
+  const QString tip = indexAt(viewport()->mapFromGlobal(mouse)).data(Qt::ToolTipRole).toString();
+  if (QToolTip::text() != tip) QToolTip::showText(mouse, tip, viewport());
+}
+
+bool InitiativeGridView::event(QEvent* event) {
+  if (event->type() != QEvent::ShortcutOverride) return QTableView::event(event);
+  // Elsewhere in the window this key goes to the grid; here it takes back what was typed.
+  const bool own = IsEscape(static_cast<const QKeyEvent&>(*event));
+  if (own) event->accept();
+  return own || QTableView::event(event);
+}
+
 void InitiativeGridView::keyPressEvent(QKeyEvent* event) {
+  if (IsEscape(*event)) perform_({"GridX_Restore"});
   if (MoveCell(*event) || Type(*event)) {
+    // A step or the wheel may have moved the cell out of sight.
+    scrollTo(currentIndex());
     event->accept();
     return;
   }
@@ -220,9 +242,9 @@ void InitiativeGridView::PaintHint(QPainter& painter) const {
   painter.setFont(InterfaceFont(10));
   painter.setPen(Theme::Current().muted);
   painter.drawText(viewport()->rect().adjusted(14, 17, -4, 0), Qt::AlignLeft | Qt::AlignTop,
-                   "No combatants yet.\nImport characters with\nOpen (Ctrl+O), or take up\n"
+                   "No combatants yet.\nImport characters with\nOpen (Ctrl+O), or load\n"
                    "a saved fight with\nFile \u203a Load State (Ctrl+L).\n"
-                   "Files may be dropped here, too.\n\nHelp (F1) tells how a turn runs.");
+                   "You can also drop files here.\n\nPress F1 to see how a turn works.");
 }
 
 void InitiativeGridView::PaintFrames(QPainter& painter) const {
