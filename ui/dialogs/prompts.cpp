@@ -48,6 +48,7 @@ std::optional<std::string> AskForFile(QWidget* parent, const FileDialog& dialog,
   box.setAcceptMode(mode);
   box.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
                                                   : QFileDialog::AnyFile);
+  if (mode == QFileDialog::AcceptSave) box.setLabelText(QFileDialog::LookIn, "Save in:");
   box.setDefaultSuffix(ToQString(dialog.defaultExtension));
   if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return std::nullopt;
   return PathText(box.selectedFiles().constFirst());
