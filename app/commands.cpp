@@ -44,7 +44,7 @@ void ClickSight(Session& session, const Act& act) {
 
 template <int rounds>
 void Fire(Session& session, const Act& act) {
-  session.main.firing.Fire(WeaponOf(act), rounds);
+  session.main.Fire(WeaponOf(act), rounds);
 }
 
 template <SkillUse use>
@@ -76,7 +76,7 @@ void Pool(Session& session, const Act&) {
   session.main.ChangePool(box, change);
 }
 
-/// A line of a list was marked.
+/// A line of a list was selected.
 template <SheetList list>
 void Mark(Session& session, const Act& act) {
   session.main.itemInfo.Mark(list, act.index);
@@ -137,7 +137,7 @@ const auto kCommands = std::to_array<Command>({
     {"mnuFileOpen", Main<&MainForm::mnuFileOpen>, Menu::File, 0, "&Open...", "Ctrl+O",
      "Import characters from their files", "Open", "Open"},
     {"mnuFileLoad", Main<&MainForm::mnuFileLoad>, Menu::File, 1, "&Load State...", "Ctrl+L",
-     "Take up a saved fight"},
+     "Load a saved fight"},
     {"mnuFileSave", Main<&MainForm::mnuFileSave>, Menu::File, 1, "&Save State...", "Ctrl+S",
      "Save this fight"},
     {"mnuFileExit", Main<&MainForm::mnuFileExit>, Menu::File, 2, "E&xit", "Ctrl+Q",
@@ -145,17 +145,17 @@ const auto kCommands = std::to_array<Command>({
 
     {"mnuTReroll", Main<&MainForm::mnuTReroll>, Menu::Turn, 0, "&Reroll", "Ctrl+R",
      "Roll everybody's initiative and begin a combat turn", "Reroll", "Reroll"},
-    {"mnuTReset", Main<&MainForm::mnuTReset>, Menu::Turn, 0, "Reset to &Top", "Ctrl+T",
+    {"mnuTReset", Main<&MainForm::mnuTReset>, Menu::Turn, 0, "Reset to &top", "Ctrl+T",
      "Begin a combat turn with the initiative as it is", "Reset", "Reset"},
     {"mnuTPrev", Main<&MainForm::mnuTPrev>, Menu::Turn, 1, "&Previous", "F7",
      "Step back to look at earlier actions of this combat turn", "Prev", "Prev"},
     {"mnuTNext", Main<&MainForm::mnuTNext>, Menu::Turn, 1, "&Next", "F8",
      "Step on to the next action", "Next", "Next"},
     {"mnuTClear", Main<&MainForm::mnuTClear>, Menu::Turn, 2, "&Clear All Events", "Ctrl+E",
-     "Forget all grenades and rockets that are still to go off", "ClearFlag", "Clear flag"},
+     "Cancel all pending grenades and rockets", "ClearFlag", "Clear flag"},
 
     {"mnuPDelay", Main<&MainForm::mnuPDelay>, Menu::Combatant, 0, "Toggle &Delay", "Ctrl+D",
-     "Put off this combatant's action, or let it act now", "Delay", "Delay", true},
+     "Delay this combatant's action, or let it act now", "Delay", "Delay", true},
     {"mnuPInactive", Main<&MainForm::mnuPInactive>, Menu::Combatant, 0, "Toggle Active/&Inactive",
      "Ctrl+I", "Take this combatant out of initiative, or back in", "Disable", "Disable", true},
     {"mnuPGrenade", Main<&MainForm::mnuPGrenade>, Menu::Combatant, 1, "&Grenade", "Ctrl+G",
@@ -174,11 +174,11 @@ const auto kCommands = std::to_array<Command>({
     {"mnuViewGM", Main<&MainForm::mnuViewGM>, Menu::View, 1, "&Game Master", "Ctrl+J",
      "Show the game master's list of notes"},
     {"mnuViewLog", Main<&MainForm::mnuViewLog>, Menu::View, 1, "&Log", "Ctrl+Shift+J",
-     "Show what the log file holds of this and earlier evenings"},
+     "Show the log of this and earlier sessions"},
     {"mnuViewReference", Main<&MainForm::mnuViewReference>, Menu::View, 1, "Re&ference", "Ctrl+F",
      "Look up an entry of the reference file"},
     {"mnuViewInfo", Main<&MainForm::mnuViewInfo>, Menu::View, 1, "&Item Information",
-     "Ctrl+Shift+I", "Show every figure of the line that was marked last"},
+     "Ctrl+Shift+I", "Show all details of the selected item"},
     {"ShowRoller", Main<&MainForm::ShowRoller>, Menu::View, 1, "Dice &Roller", "F12",
      "Show the dice roller"},
     {"mnuViewStatusBar", Main<&MainForm::mnuViewStatusBar>, Menu::View, 1, "&Status Bar", "Ctrl+/",
@@ -196,13 +196,16 @@ const auto kCommands = std::to_array<Command>({
     {"MainTop", KeepPlace<&WindowLayout::MainTop>},
     {"MainWidth", KeepPlace<&WindowLayout::MainWidth>},
     {"MainHeight", KeepPlace<&WindowLayout::MainHeight>},
+    {"Form_LeftOut", Main<&MainForm::Form_LeftOut>},
     {"Form_Drop", MainText<&MainForm::Form_Drop>},
     {"GridX_Click", MainIndexed<&MainForm::GridX_Click>},
     {"GridX_KeyPress", MainIndexed<&MainForm::GridX_KeyPress>},
-    {"GridX_Roll", [](Session& s, const Act& a) { s.main.GridX_Cell(a.index, 1); }},
     {"GridX_Restore", Main<&MainForm::GridX_Restore>},
+    {"GridX_Roll", [](Session& s, const Act& a) { s.main.GridX_Cell(a.index, 1); }},
     {"GridX_PM", [](Session& s, const Act& a) { s.main.GridX_Cell(a.index, 2); }},
     {"GridX_Name", [](Session& s, const Act& a) { s.main.GridX_Cell(a.index, 0); }},
+
+    {"lblLogFailure", [](Session& s, const Act&) { s.main.gmLog.FailureSeen(); }},
 
     {"optInitMode", MainIndexed<&MainForm::optInitMode>},
     {"txtRRSLT", MainText<&MainForm::txtRRSLT_Change>},
@@ -231,7 +234,7 @@ const auto kCommands = std::to_array<Command>({
     {"optRangeSel", ChooseRange},
     {"cmdShots1", Fire<1>},
     {"cmdShots3", Fire<3>},
-    {"cmdShotsFA", [](Session& s, const Act& a) { s.main.firing.FullAuto(WeaponOf(a)); }},
+    {"cmdShotsFA", [](Session& s, const Act& a) { s.main.FullAuto(WeaponOf(a)); }},
     {"cmdShotsZ", [](Session& s, const Act& a) { s.main.firing.Reload(WeaponOf(a)); }},
     {"cmdDisarm", [](Session& s, const Act& a) { s.main.cmdDisarm(WeaponOf(a)); }},
     {"cmdSetPrim", [](Session& s, const Act&) { s.main.cmdSetWeapon(Weapon::Primary); }},
@@ -343,6 +346,14 @@ constexpr auto kToolbarKeys = std::to_array<const char*>(
      "Disable", "", "Grenade", "Rocket", "", "Multiply", "Delete"});
 
 }  // namespace
+
+std::string PlainWords(std::string_view text) {
+  std::string plain;
+  for (const char c : text) {
+    if (c != '&' && c != '.') plain += c;
+  }
+  return plain;
+}
 
 std::span<const Command> Commands() { return kCommands; }
 

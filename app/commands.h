@@ -1,6 +1,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "app/session.h"
@@ -44,6 +45,10 @@ struct Command {
   /// The entry carries a check mark.
   bool checkable = false;
 };
+
+/// The words of a menu or an entry without the mnemonic's mark and the dots of one that asks
+/// further.
+std::string PlainWords(std::string_view text);
 
 /// All commands; those of the menus stand in menu order.
 std::span<const Command> Commands();

@@ -189,6 +189,7 @@ void VisitControls(const MainForm& form, ControlVisitor& visitor) {
   visitor.Check({"mnuViewStatusBar"}, form.statusBarVisible);
   visitor.Check({"mnuViewDark"}, form.darkColours);
   visitor.Text({"lblStatus"}, form.statusMessage);
+  visitor.Text({"lblLogFailure"}, form.gmLog.lblLogFailure());
 }
 
 }  // namespace ng

@@ -25,7 +25,7 @@ struct ControlName {
 class ControlVisitor {
  public:
   virtual ~ControlVisitor() = default;
-  /// Labels and text boxes.
+  /// Labels, text boxes, and buttons whose words change.
   virtual void Text(ControlName control, const std::string& text) = 0;
   /// Check boxes, menu entries with a mark, and labels that are shown or hidden.
   virtual void Check(ControlName control, bool checked) = 0;

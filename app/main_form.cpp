@@ -44,8 +44,7 @@ void HeaderPanel::Show(const PlayerRecord& record) {
 }
 
 MainForm::MainForm(Environment& environment, LoaderForm& loader, OptionsForm& options)
-    : gmLog(environment.files, environment.location.directory + "\\ngtracker.txt",
-            [this](const std::string& failure) { statusMessage = failure; }),
+    : gmLog(environment.files, environment.location.directory + "\\ngtracker.txt"),
       reference(info, environment.files),
       GridX(fight),
       sequencer(fight, GridX, environment.uniform, environment.prompts, *this),
@@ -117,8 +116,14 @@ void MainForm::mnuFileExit() {
   closing = true;
 }
 
+void MainForm::mnuViewGM() {
+  frmGMOpen = true;
+  gmLog.FailureSeen();
+}
+
 void MainForm::mnuViewLog() {
   logViewer.Form_Load(environment_.files, environment_.location.directory + "\\ngtracker.txt");
+  gmLog.FailureSeen();
 }
 
 void MainForm::cmdAddNote() { gmLog.Add(environment_.prompts.Input(" Enter your note")); }

@@ -118,6 +118,10 @@ class MainForm : private SequencerHost, private DiceRoller::Weapons {
   /// Keeps the layout for the next start.
   void Form_Unload();
 
+  /// Says that characters were typed or pasted that the program's files cannot hold.
+  void Form_LeftOut() {
+    statusMessage = "Left out: characters that cannot be saved (outside Windows-1252)";
+  }
   /// Opens files dropped on the window or named at the start; the names are joined by "|".
   void Form_Drop(const std::string& names);
 
@@ -141,7 +145,7 @@ class MainForm : private SequencerHost, private DiceRoller::Weapons {
   void mnuPMult();
   void mnuPRemove();
   void mnuViewOptions();
-  void mnuViewGM() { frmGMOpen = true; }
+  void mnuViewGM();
   void mnuViewLog();
   void mnuViewReference() { reference.Form_Load(); }
   void mnuHelpAbout();
@@ -159,6 +163,8 @@ class MainForm : private SequencerHost, private DiceRoller::Weapons {
   /// text there is only shown until the grid is written again. The third column's text is kept
   /// until the next change of damage.
   void GridX_KeyPress(int code);
+  /// Takes back what was typed into the current cell.
+  void GridX_Restore();
 
   // The sheet. With nobody displayed these do nothing.
   void optInitMode(int option);
@@ -185,6 +191,9 @@ class MainForm : private SequencerHost, private DiceRoller::Weapons {
   void WeaponBox_Change(std::string& box, const std::string& text);
   void chkTwoGuns_Click();
   void Sight_Click(Weapon weapon, Sight sight);
+  /// Fires a weapon; says in the status bar when the range does not count for want of a skill.
+  void Fire(Weapon weapon, int rounds);
+  void FullAuto(Weapon weapon);
   void cmdDisarm(Weapon weapon);
   /// Takes the marked line of the weapon list into a hand.
   void cmdSetWeapon(Weapon weapon);
@@ -243,6 +252,7 @@ class MainForm : private SequencerHost, private DiceRoller::Weapons {
   void SpendPool(Slot slot, Integer left);
   bool WieldsInMelee(const PlayerRecord& combatant, Weapon weapon) const override;
   Integer WeaponModifier(const PlayerRecord& combatant, Weapon weapon) const override;
+  void TellMissingSkill(Weapon weapon, int testsBefore);
   void ToggleCarried(std::vector<CarriedLine> CharacterEntry::*list, int index);
 
   Environment& environment_;

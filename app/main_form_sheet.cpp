@@ -62,6 +62,23 @@ void MainForm::UpdateWeapons() {
   SyncSheet();
 }
 
+void MainForm::Fire(Weapon weapon, int rounds) {
+  const int tests = ngdr.TestsStarted();
+  firing.Fire(weapon, rounds);
+  TellMissingSkill(weapon, tests);
+}
+
+void MainForm::FullAuto(Weapon weapon) {
+  const int tests = ngdr.TestsStarted();
+  firing.FullAuto(weapon);
+  TellMissingSkill(weapon, tests);
+}
+
+void MainForm::TellMissingSkill(Weapon weapon, int testsBefore) {
+  if (ngdr.TestsStarted() == testsBefore || !WieldsInMelee(weapon)) return;
+  statusMessage = "No firing skill chosen for this weapon: base number 4 at any range";
+}
+
 void MainForm::cmdDisarm(Weapon weapon) { firing.Disarm(weapon); }
 
 void MainForm::cmdSetWeapon(Weapon weapon) {

@@ -216,20 +216,19 @@ TEST_F(FightFilesTest, NotesHaveAFileOfTheirOwnOrStayWhileTheProgramRuns) {
   EXPECT_EQ(program.main.txtNotes, "talks\r\nfirst ");
 }
 
-TEST_F(FightFilesTest, TheLogGrowsAndItsFailureIsToldOnce) {
+TEST_F(FightFilesTest, TheLogGrowsAndItsFailureStaysUntilSeen) {
   program.prompts.answers.push_back({Kind::Input, "", {}});
   program.Do("frmGM.cmdAddNote");
   program.Do("mnuViewLog");
   EXPECT_EQ(program.main.logViewer.lstDisplay, std::vector<std::string>{""});
-  program.main.statusMessage.clear();
-  for (int i = 0; i < 2; ++i) {
+  for (const char* seen : {"lblLogFailure", "mnuViewGM", "mnuViewLog", "frmGM.cmdViewLog"}) {
     program.files.failingWrite = 1;
-    program.prompts.answers.push_back({Kind::Input, "gate shut", {}});
-    program.Do("frmGM.cmdAddNote");
-    EXPECT_EQ(program.main.statusMessage, i == 0 ? "The log is not written: Disk full" : "");
-    program.main.statusMessage.clear();
+    program.Do("cmdShotsZ");
+    program.Do("mnuTNext");
+    EXPECT_EQ(program.main.gmLog.lblLogFailure(), "Log not written: Disk full") << seen;
+    program.Do(seen);
+    EXPECT_EQ(program.main.gmLog.lblLogFailure(), "") << seen;
   }
-  EXPECT_EQ(program.main.gmLog.lstGMinfo().size(), 3U);
 }
 
 TEST_F(FightFilesTest, TheReferenceWindowFindsEntries) {

@@ -1,6 +1,7 @@
 #include "combat/firing.h"
 
 #include <gtest/gtest.h>
+#include <utility>
 
 #include "base/number_text.h"
 #include "fakes/test_program.h"
@@ -92,12 +93,15 @@ TEST_F(FiringTest, FiresUntilTheMagazineIsEmpty) {
     EXPECT_EQ(panel.txtTBTT[0] + panel.txtShots[0] + ash.PrimAmmo, total + total + total);
     EXPECT_EQ(main.firing.BurstFire(), Boolean(burst)) << act;
     EXPECT_EQ(ash.FiredThisTurn, Boolean(rounds > 0)) << act;
+    EXPECT_EQ(std::exchange(main.statusMessage, ""),
+              "No firing skill chosen for this weapon: base number 4 at any range");
   }
   program.prompts.TakeLog();
   program.Do("cmdShots1");
   program.Do("cmdShotsFA");
   program.Do("cmdShots3", 1);  // nothing in the second hand
   EXPECT_EQ(program.prompts.TakeLog(), Log(3, "message \"Weapon empty\""));
+  EXPECT_EQ(main.statusMessage, "");
 
   program.Do("cmdShotsZ");
   EXPECT_EQ(main.gmLog.lstGMinfo(), (Log{"Ash", "Reload:Mower (old) (HMG)Shots fired:40"}));
@@ -209,6 +213,7 @@ TEST_F(FiringTest, SkillsAreChosenAndHandedOver) {
   Ready("cmdSetSecond", 1);
   program.Do("cmdShots3", 1);
   EXPECT_EQ(roller.lblSkill + roller.skill + roller.DamageCode, "Gunnery\t[3]310S");
+  EXPECT_EQ(main.statusMessage, "Ready");
   EXPECT_EQ(ash.SkillWeapType.Value(), 2);
   program.Do("cmdUnarmed");
   EXPECT_EQ(roller.lblSkill + roller.txtNumDice, "ma: kick\t[2/7]7");

@@ -36,21 +36,30 @@ TEST(LogViewer, ShowsWhatTheLogKept) {
   EXPECT_RUNTIME_ERROR(viewer.Form_Load(files, "C:\\log.txt"), "File not found");
   EXPECT_FALSE(viewer.open);
 
-  Lines reports;
-  GmLog log(files, "C:\\log.txt", [&](const std::string& text) { reports.push_back(text); });
+  GmLog log(files, "C:\\log.txt");
   log.Add("one");
   log.Add("");
   viewer.Form_Load(files, "C:\\log.txt");
   EXPECT_EQ(viewer.lstDisplay, (Lines{"one", ""}));
   EXPECT_TRUE(viewer.open);
-  for (const char* line : {"lost", "lost too"}) {
+  // A failure is shown until it is seen, and again once the file could be written in between.
+  const auto lose = [&](const char* line) {
     files.failingWrite = 1;
     log.Add(line);
-  }
+  };
+  lose("lost");
+  EXPECT_EQ(log.lblLogFailure(), "Log not written: Disk full");
+  log.FailureSeen();
+  lose("lost too");
+  EXPECT_EQ(log.lblLogFailure(), "");
   viewer.Form_Load(files, "C:\\log.txt");
   EXPECT_EQ(viewer.lstDisplay, (Lines{"one", ""}));
   EXPECT_EQ(log.lstGMinfo(), (Lines{"one", "", "lost", "lost too"}));
-  EXPECT_EQ(reports.size(), 1U);
+  log.Add("kept");
+  EXPECT_EQ(log.lblLogFailure(), "");
+  lose("lost again");
+  log.Add("kept");
+  EXPECT_EQ(log.lblLogFailure(), "Log not written: Disk full");
 }
 
 TEST(InfoIndex, FindsEntriesAndTheirLines) {

@@ -1,7 +1,6 @@
 #include "ui/dialogs/loader_dialog.h"
 
 #include <QComboBox>
-#include <QDir>
 #include <QGridLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -45,12 +44,7 @@ LoaderDialog::LoaderDialog(Session& session, QWidget* parent)
   files_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   BuildLayout();
   Connect();
-  // The directory that the tree opens with is the one whose files are listed.
-  if (!IsDirectory(session_.loader.DirListBox)) {
-    Do("frmLoader.DirListBox", 0, PathText(QDir::homePath()));
-  } else {
-    Paint();
-  }
+  Paint();
   files_->setFocus();
 }
 

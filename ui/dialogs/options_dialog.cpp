@@ -22,21 +22,24 @@ namespace {
 
 /// What the directories are for, to whom has not seen the program before.
 QString FirstStartText() {
-  return "Welcome. Please say where the character files (*.ng3) lie that you import combatants "
-         "from, "
-         "and where Forgekit's DATA directory is, with the tables of gear, ranges and skills that "
-         "the "
-         "import needs.";
+  return "Welcome. Choose the directory that holds your character files (*.ng3), and Forgekit's "
+         "DATA "
+         "directory, which has the tables of gear, ranges and skills that the import needs.";
 }
 
-/// At the first start the dialog comes before the settings are read, all but the character
-/// directory; later on only the character directory is asked for again and again.
-QString TimeText(OptionsDialog::Occasion occasion) {
-  return occasion == OptionsDialog::Occasion::FirstStart
-             ? "The character directory takes effect at the next start; for today, find the "
-               "files in the Open dialog. All else takes effect now."
-             : "The character directory takes effect at once. The tables of the DATA directory "
-               "are read, and the two switches take effect, at the next start.";
+/// When the settings take effect. At the first start the dialog comes before they are read, except
+/// for the character directory. A settings file that was given is read but never written.
+QString TimeText(OptionsDialog::Occasion occasion, bool fileGiven) {
+  const bool first = occasion == OptionsDialog::Occasion::FirstStart;
+  if (fileGiven) {
+    return QString(first ? "" : "The character directory takes effect at once. ") +
+           "The settings are written to the program's own tracker.ini and take effect when the "
+           "program is started without a settings file.";
+  }
+  return first ? "The character directory takes effect at the next start; until then, browse to it "
+                 "in the Open dialog. The other settings take effect now."
+               : "The character directory takes effect at once. The tables of the DATA directory "
+                 "are read, and the two switches take effect, at the next start.";
 }
 
 }  // namespace
@@ -61,7 +64,8 @@ OptionsDialog::OptionsDialog(Session& session, Occasion occasion, QWidget* paren
   data_ = AddGroup(*groups, "DATA directory", "Dat");
   column->addLayout(groups, 1);
   column->addWidget(BuildSwitches());
-  auto* time = new QLabel(TimeText(occasion), this);
+  auto* time =
+      new QLabel(TimeText(occasion, !session.environment.location.commandLine.empty()), this);
   time->setProperty("tone", "muted");
   time->setWordWrap(true);
   column->addWidget(time);

@@ -7,6 +7,7 @@
 #include <QGridLayout>
 #include <QMessageBox>
 
+#include "app/session.h"
 #include "ui/dialogs/about_dialog.h"
 #include "ui/dialogs/input_dialog.h"
 #include "ui/dialogs/loader_dialog.h"
@@ -47,6 +48,7 @@ std::optional<std::string> AskForFile(QWidget* parent, const FileDialog& dialog,
   box.setAcceptMode(mode);
   box.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
                                                   : QFileDialog::AnyFile);
+  if (mode == QFileDialog::AcceptSave) box.setLabelText(QFileDialog::LookIn, "Save in:");
   box.setDefaultSuffix(ToQString(dialog.defaultExtension));
   if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return std::nullopt;
   return PathText(box.selectedFiles().constFirst());
@@ -104,7 +106,11 @@ void QtPrompts::Message(std::string_view text) {
 
 std::string QtPrompts::Input(std::string_view prompt) {
   PaintMainWindow();
-  InputDialog dialog(Title(), ToQString(prompt), Parent());
+  const Perform perform = [this](const Act& act) {
+    session_->Do(act);
+    PaintMainWindow();
+  };
+  InputDialog dialog(Title(), ToQString(prompt), perform, Parent());
   return dialog.exec() == QDialog::Accepted ? FromQString(dialog.Answer()) : std::string();
 }
 

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QStatusBar>
 #include <QStyleOption>
+#include <QToolButton>
 #include <optional>
 
 #include "ui/look/row_colour.h"
@@ -25,11 +26,11 @@ constexpr int kFieldPadding = 3;
 
 /// Whether the widget's text has a tone, and then the role of the palette that has its colour.
 std::optional<QPalette::ColorRole> ToneOf(const QWidget& widget) {
-  if (qobject_cast<const QStatusBar*>(widget.parentWidget()) != nullptr) return kMutedText;
   const QVariant tone = widget.property("tone");
   if (tone == QLatin1String("muted")) return kMutedText;
   if (tone == QLatin1String("accent")) return kAccentText;
   if (tone == QLatin1String("alarm")) return kAlarmText;
+  if (qobject_cast<const QStatusBar*>(widget.parentWidget()) != nullptr) return kMutedText;
   return std::nullopt;
 }
 
@@ -50,13 +51,13 @@ void ColourLabel(QLabel& label) {
   if (const auto role = ToneOf(label)) label.setForegroundRole(*role);
 }
 
-void ColourLineEdit(QLineEdit& edit) {
-  const auto role = ToneOf(edit);
+/// For a widget that writes in the colour of `text`, whatever its own role.
+void ColourText(QWidget& widget, QPalette::ColorRole text) {
+  const auto role = ToneOf(widget);
   if (!role) return;
-  // A line edit writes in the colour of its text, whatever its role.
   QPalette colours;
-  colours.setColor(QPalette::Text, QGuiApplication::palette().color(*role));
-  edit.setPalette(colours);
+  colours.setColor(text, QGuiApplication::palette().color(*role));
+  widget.setPalette(colours);
 }
 
 }  // namespace
@@ -67,8 +68,10 @@ void TrackerStyle::polish(QWidget* widget) {
   QProxyStyle::polish(widget);
   if (auto* label = qobject_cast<QLabel*>(widget)) {
     ColourLabel(*label);
-  } else if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
-    ColourLineEdit(*edit);
+  } else if (qobject_cast<QLineEdit*>(widget) != nullptr) {
+    ColourText(*widget, QPalette::Text);
+  } else if (qobject_cast<QToolButton*>(widget) != nullptr) {
+    ColourText(*widget, QPalette::ButtonText);
   }
 }
 

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <utility>
 
 #include "ui/look/layout_kit.h"
 #include "ui/look/theme.h"
@@ -86,11 +87,14 @@ QBoxLayout* HeaderPanelView::BuildInitiative() {
   row->addSpacing(5);
 
   // The only radio buttons of this panel, so that they exclude one another.
+  const std::pair<const char*, const char*> modes[] = {
+      {"Ph&ysical", "Physical = Augmented Initiative (D6) + Augmented Reaction"},
+      {"&Astral", "Astral = Natural Initiative (D6) + Natural Reaction + 20"}};
   int index = 0;
-  for (const char* text : {"Ph&ysical", "&Astral"}) {
+  for (const auto& [text, tip] : modes) {
     auto* mode = new QRadioButton(text, this);
-    mode->setObjectName(QStringLiteral("optInitMode_%1").arg(index++));
-    mode->setToolTip("Initiative mode, from the next reroll on");
+    mode->setObjectName(ElementName("optInitMode", index++));
+    mode->setToolTip(QStringLiteral("%1\nTakes effect at the next reroll").arg(tip));
     row->addWidget(mode);
   }
   return row;

@@ -12,6 +12,7 @@
 #include <QStyle>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QToolButton>
 #include <QTreeWidget>
 #include <algorithm>
 #include <string_view>
@@ -129,6 +130,12 @@ void MainWindow::BuildStatusBar() {
   message->setObjectName(QStringLiteral("lblStatus"));
   message->setContentsMargins(3, 0, 0, 0);
   statusBar()->addWidget(message, 1);
+  auto* failure = new QToolButton(this);
+  failure->setObjectName(QStringLiteral("lblLogFailure"));
+  failure->setToolTip("Click to dismiss; the list in the Game Master window is complete");
+  failure->setAutoRaise(true);
+  failure->setProperty("tone", "alarm");
+  statusBar()->addPermanentWidget(failure);
   for (QLabel** label : {&combatants_, &combatTurn_, &pass_, &roller_}) {
     *label = new QLabel(this);
     (*label)->setContentsMargins(0, 0, 10, 0);

@@ -5,18 +5,22 @@
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QTextBrowser>
+#include <QTextCursor>
+#include <QTextTable>
 #include <QTreeWidget>
 #include <span>
 
 #include "app/main_form.h"
 #include "ui/look/layout_kit.h"
 #include "ui/widgets/list_paint.h"
+#include "ui/wiring/code_page_input.h"
 #include "ui/wiring/text.h"
 
 namespace ng {
 namespace {
 
 constexpr int kTopicsWidth = 200;
+constexpr int kCellPadding = 4;
 constexpr QSize kSize(860, 600);
 constexpr QSize kLeastSize(640, 400);
 
@@ -24,95 +28,44 @@ constexpr QSize kLeastSize(640, 400);
 constexpr int kTwoColumns[] = {24, 76};
 constexpr int kFourColumns[] = {26, 13, 17, 44};
 
-/// Writes a topic out as the rich text that the browser shows, in the colours in force.
-class TopicWriter {
- public:
-  explicit TopicWriter(const HelpForm& form) : wanted_(ToQString(form.txtFilter)) {
-    if (form.lstTopicsIndex < 0) {
-      AddParagraph("The help says nothing about this.", "margin-top:6px");
-      return;
-    }
-    AddParagraph(Escaped(ToQString(form.lstTopics[static_cast<std::size_t>(form.lstTopicsIndex)])),
-                 "font-size:14pt; font-weight:600; margin-bottom:8px");
-    for (const HelpLine& line : form.lines) Add(line);
-    EndTable();
-  }
-
-  const QString& Html() const { return html_; }
-
- private:
-  void Add(const HelpLine& line) {
-    if (line.kind == HelpLine::Kind::Heading || line.kind == HelpLine::Kind::Text) EndTable();
-    switch (line.kind) {
-      case HelpLine::Kind::Heading:
-        AddParagraph(Escaped(ToQString(line.cells.front())),
-                     "font-size:11pt; font-weight:600; margin-top:14px; margin-bottom:4px");
-        break;
-      case HelpLine::Kind::Text:
-        AddParagraph(Marked(line.cells.front()), "margin-bottom:8px");
-        break;
-      case HelpLine::Kind::Titles:
-        AddRow(line.cells, "th");
-        break;
-      case HelpLine::Kind::Row:
-        AddRow(line.cells, "td");
-        break;
+/// Gives a table the whole width, rows that can be told apart, and bold words to look up.
+void FormatTable(QTextTable& table) {
+  const std::span<const int> widths =
+      table.columns() == 2 ? std::span<const int>(kTwoColumns) : kFourColumns;
+  QTextTableFormat format = table.format();
+  format.setBorder(0);
+  format.setCellSpacing(0);
+  format.setCellPadding(kCellPadding);
+  format.setWidth(QTextLength(QTextLength::PercentageLength, 100));
+  QList<QTextLength> columns;
+  for (const int width : widths) columns += QTextLength(QTextLength::PercentageLength, width);
+  format.setColumnWidthConstraints(columns);
+  table.setFormat(format);
+  QTextTableCellFormat shaded;
+  shaded.setBackground(Theme::Current().alternateBase);
+  QTextCharFormat bold;
+  bold.setFontWeight(QFont::Bold);
+  for (int row = 1; row < table.rows(); ++row) {
+    for (int column = 0; column < table.columns(); ++column) {
+      QTextTableCell cell = table.cellAt(row, column);
+      if (row % 2 == 0) cell.setFormat(shaded);
+      if (column > 0) continue;
+      QTextCursor words = cell.firstCursorPosition();
+      words.setPosition(cell.lastPosition(), QTextCursor::KeepAnchor);
+      words.mergeCharFormat(bold);
     }
   }
+}
 
-  void AddParagraph(const QString& text, const char* style) {
-    html_ += QStringLiteral("<p style=\"margin:0 4px; %1\">%2</p>").arg(QLatin1String(style), text);
+/// Puts what is looked for on a ground of its own.
+void HighlightText(QTextDocument& document, const QString& wanted) {
+  if (wanted.isEmpty()) return;
+  QTextCharFormat found;
+  found.setBackground(Theme::Current().nonZeroBox);
+  for (QTextCursor at = document.find(wanted); !at.isNull(); at = document.find(wanted, at)) {
+    at.mergeCharFormat(found);
   }
-
-  void AddRow(const std::vector<std::string>& cells, const char* tag) {
-    if (rows_ == 0)
-      html_ += QLatin1String("<table width=\"100%\" cellspacing=\"0\" cellpadding=\"4\">");
-    const bool shaded = rows_++ % 2 != 0;
-    const QColor back = shaded ? Theme::Current().alternateBase : Theme::Current().base;
-    html_ += QStringLiteral("<tr bgcolor=\"%1\">").arg(back.name());
-    const std::span<const int> widths =
-        cells.size() == std::size(kTwoColumns) ? std::span<const int>(kTwoColumns) : kFourColumns;
-    for (std::size_t i = 0; i < cells.size(); ++i) {
-      // The first cell is what is looked up.
-      const QString text =
-          i == 0 ? QStringLiteral("<b>%1</b>").arg(Marked(cells[i])) : Marked(cells[i]);
-      html_ += QStringLiteral("<%1 align=\"left\" width=\"%2%\">%3</%1>")
-                   .arg(QLatin1String(tag))
-                   .arg(widths[i])
-                   .arg(text);
-    }
-    html_ += QLatin1String("</tr>");
-  }
-
-  void EndTable() {
-    if (rows_ > 0) html_ += QLatin1String("</table>");
-    rows_ = 0;
-  }
-
-  static QString Escaped(const QString& text) { return text.toHtmlEscaped(); }
-
-  /// The text with what is looked for on a ground of its own.
-  QString Marked(const std::string& cell) const {
-    const QString text = ToQString(cell);
-    if (wanted_.isEmpty()) return Escaped(text);
-    QString marked;
-    qsizetype at = 0;
-    for (qsizetype found = text.indexOf(wanted_, 0, Qt::CaseInsensitive); found >= 0;
-         found = text.indexOf(wanted_, at, Qt::CaseInsensitive)) {
-      marked += Escaped(text.mid(at, found - at));
-      at = found + wanted_.size();
-      marked +=
-          QStringLiteral("<span style=\"background-color:%1\">%2</span>")
-              .arg(Theme::Current().nonZeroBox.name(), Escaped(text.mid(found, wanted_.size())));
-    }
-    return marked + Escaped(text.mid(at));
-  }
-
-  QString wanted_;
-  QString html_;
-  /// Of the table that is begun.
-  int rows_ = 0;
-};
+}
 
 }  // namespace
 
@@ -134,6 +87,7 @@ HelpWindow::HelpWindow(const Perform& perform, QWidget* parent)
   // Keys and names stay whole in narrow columns.
   topic_->setWordWrapMode(QTextOption::WordWrap);
   topic_->document()->setDocumentMargin(kGroupPadding);
+  KeepToCodePage(*filter_, perform);
   connect(filter_, &QLineEdit::textEdited, this, [this](const QString& text) {
     Do({"frmHelp.txtFilter", 0, FromQString(text)});
   });
@@ -165,12 +119,22 @@ void HelpWindow::Paint(const MainForm& form) {
     if (shownTopics_ != help.lstTopics) ShowLines(*topics_, help.lstTopics);
     shownTopics_ = help.lstTopics;
     ShowSelection(*topics_, help.lstTopicsIndex);
-    const QString topic = TopicWriter(help).Html();
-    if (shownTopic_ != topic) topic_->setHtml(topic);
-    shownTopic_ = topic;
+    ShowTopic(help);
   }
   SetOpen(help.open);
   if (opens) topics_->setFocus();
+}
+
+void HelpWindow::ShowTopic(const HelpForm& help) {
+  const Shown wanted{help.txtTopic, help.txtFilter, &Theme::Current()};
+  if (shown_ == wanted) return;
+  shown_ = wanted;
+  QTextDocument& document = *topic_->document();
+  document.setMarkdown(ToQString(help.txtTopic), QTextDocument::MarkdownDialectGitHub);
+  for (QTextFrame* frame : document.rootFrame()->childFrames()) {
+    if (auto* table = qobject_cast<QTextTable*>(frame)) FormatTable(*table);
+  }
+  HighlightText(document, ToQString(help.txtFilter));
 }
 
 }  // namespace ng

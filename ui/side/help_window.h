@@ -8,6 +8,9 @@ class QTreeWidget;
 
 namespace ng {
 
+class HelpForm;
+struct Theme;
+
 /// The help: the topics with a box that looks through all of them, and the topic chosen.
 class HelpWindow : public SideWindow {
   Q_OBJECT
@@ -17,12 +20,21 @@ class HelpWindow : public SideWindow {
   void Paint(const MainForm& form);
 
  private:
+  /// What the browser shows, and the colours that it was written in.
+  struct Shown {
+    std::string topic;
+    std::string filter;
+    const Theme* theme = nullptr;
+    bool operator==(const Shown&) const = default;
+  };
+
+  void ShowTopic(const HelpForm& help);
+
   QLineEdit* filter_;
   QTreeWidget* topics_;
   QTextBrowser* topic_;
   std::vector<std::string> shownTopics_;
-  /// What the browser was last given; it gives back something else.
-  QString shownTopic_;
+  Shown shown_;
 };
 
 }  // namespace ng

@@ -11,6 +11,7 @@
 #include "app/main_form.h"
 #include "ui/look/layout_kit.h"
 #include "ui/widgets/list_paint.h"
+#include "ui/wiring/code_page_input.h"
 #include "ui/wiring/text.h"
 
 namespace ng {
@@ -125,6 +126,7 @@ ReferenceWindow::ReferenceWindow(const Perform& perform, QWidget* parent)
   names_ = MakePlainList(
       {QStringLiteral("lstNames"), "Entries", "The entries of the reference file"}, this);
   entry_ = MakeEntryText(QStringLiteral("txtEntry"), this);
+  KeepToCodePage(*filter_, perform);
   connect(filter_, &QLineEdit::textEdited, this, [this](const QString& text) {
     Do({"frmReference.txtFilter", 0, FromQString(text)});
   });

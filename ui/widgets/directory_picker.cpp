@@ -6,6 +6,7 @@
 #include <QFileIconProvider>
 #include <QFileSystemModel>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QStorageInfo>
 #include <QTreeView>
 #include <utility>
@@ -141,6 +142,8 @@ void DirectoryPicker::ShowDrive(const QString& directory) {
 void DirectoryPicker::Follow() {
   if (!follow_ || !sought_.isValid()) return;
   tree_->scrollTo(sought_, QAbstractItemView::PositionAtCenter);
+  // The names of the directories above say where this one is.
+  tree_->horizontalScrollBar()->setValue(0);
 }
 
 }  // namespace ng

@@ -4,11 +4,13 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <algorithm>
 #include <array>
 
 #include "base/code_page.h"
 #include "ui/look/theme.h"
+#include "ui/wiring/code_page_input.h"
 
 namespace ng {
 namespace {
@@ -41,6 +43,10 @@ class CellDelegate : public QStyledItemDelegate {
     painter->drawLine(option.rect.topRight(), option.rect.bottomRight());
   }
 };
+
+bool IsEscape(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Escape && event.modifiers() == Qt::NoModifier;
+}
 
 bool IsEnter(int key) { return key == Qt::Key_Return || key == Qt::Key_Enter; }
 
@@ -80,6 +86,7 @@ void InitiativeGridView::Show(const InitiativeGrid& grid) {
   if (model_.Show(grid)) {
     AutoSizeGrid();
     FitRows();
+    ShowTip();
   }
   const bool moved = currentRow_ != grid.CurrentRow() || currentColumn_ != grid.CurrentColumn();
   currentRow_ = grid.CurrentRow();
@@ -88,9 +95,7 @@ void InitiativeGridView::Show(const InitiativeGrid& grid) {
   if (currentIndex() != current) {
     selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
   }
-  if (!moved) return;
-  if (current.isValid()) scrollTo(current);
-  viewport()->update();
+  if (moved) viewport()->update();
 }
 
 void InitiativeGridView::SetShownRow(int row) {
@@ -128,8 +133,26 @@ void InitiativeGridView::FitRows() {
   }
 }
 
+void InitiativeGridView::ShowTip() {
+  if (!QToolTip::isVisible() || !viewport()->underMouse()) return;
+  const QPoint mouse = QCursor::pos();
+  const QString tip = indexAt(viewport()->mapFromGlobal(mouse)).data(Qt::ToolTipRole).toString();
+  if (QToolTip::text() != tip) QToolTip::showText(mouse, tip, viewport());
+}
+
+bool InitiativeGridView::event(QEvent* event) {
+  if (event->type() != QEvent::ShortcutOverride) return QTableView::event(event);
+  // Elsewhere in the window this key goes to the grid; here it takes back what was typed.
+  const bool own = IsEscape(static_cast<const QKeyEvent&>(*event));
+  if (own) event->accept();
+  return own || QTableView::event(event);
+}
+
 void InitiativeGridView::keyPressEvent(QKeyEvent* event) {
+  if (IsEscape(*event)) perform_({"GridX_Restore"});
   if (MoveCell(*event) || Type(*event)) {
+    // A step or the wheel may have moved the cell out of sight.
+    scrollTo(currentIndex());
     event->accept();
     return;
   }
@@ -196,7 +219,11 @@ bool InitiativeGridView::Type(const QKeyEvent& event) {
   }
   if (event.text().isEmpty() || !event.text().front().isPrint()) return false;
   for (const char32_t character : event.text().toUcs4()) {
-    perform_({"GridX_KeyPress", static_cast<unsigned char>(ByteOf(character)), {}});
+    if (InCodePage(character)) {
+      perform_({"GridX_KeyPress", static_cast<unsigned char>(ByteOf(character)), {}});
+    } else {
+      perform_({kLeftOutAct});
+    }
   }
   return true;
 }
@@ -215,9 +242,9 @@ void InitiativeGridView::PaintHint(QPainter& painter) const {
   painter.setFont(InterfaceFont(10));
   painter.setPen(Theme::Current().muted);
   painter.drawText(viewport()->rect().adjusted(14, 17, -4, 0), Qt::AlignLeft | Qt::AlignTop,
-                   "No combatants yet.\nImport characters with\nOpen (Ctrl+O), or take up\n"
+                   "No combatants yet.\nImport characters with\nOpen (Ctrl+O), or load\n"
                    "a saved fight with\nFile \u203a Load State (Ctrl+L).\n"
-                   "Files may be dropped here, too.\n\nHelp (F1) tells how a turn runs.");
+                   "You can also drop files here.\n\nPress F1 to see how a turn works.");
 }
 
 void InitiativeGridView::PaintFrames(QPainter& painter) const {

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "app/commands.h"
+#include "ui/wiring/code_page_input.h"
 #include "ui/wiring/text.h"
 
 namespace ng {
@@ -51,6 +52,7 @@ class Connector {
   void ConnectLine(QLineEdit& edit) const {
     const WidgetName name = CommandOf(edit);
     if (name.control.empty() || edit.isReadOnly()) return;
+    KeepToCodePage(edit, perform_);
     QObject::connect(&edit, &QLineEdit::textEdited, &owner_,
                      [name, perform = perform_](const QString& text) {
                        perform({name.control, name.index, FromQString(text)});
@@ -60,6 +62,7 @@ class Connector {
   void ConnectText(QPlainTextEdit& edit) const {
     const WidgetName name = CommandOf(edit);
     if (name.control.empty()) return;
+    KeepToCodePage(edit, perform_);
     QObject::connect(&edit, &QPlainTextEdit::textChanged, &owner_,
                      [name, &edit, &painting = painting_, perform = perform_] {
                        if (painting) return;

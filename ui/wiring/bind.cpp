@@ -10,7 +10,10 @@
 #include <QStyle>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTextCursor>
+#include <QToolButton>
 #include <QTreeWidget>
+#include <algorithm>
 #include <utility>
 
 #include "app/commands.h"
@@ -38,10 +41,39 @@ void ShowBadge(QLabel& badge, TurnState state) {
   badge.style()->polish(&badge);
 }
 
+/// Sets the part that differs, so that cursor, selection and scrolling stay where they are.
 void ShowNote(QPlainTextEdit& edit, QString text) {
   text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
   text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-  if (edit.toPlainText() != text) edit.setPlainText(text);
+  // The widget gives this blank back as a plain one.
+  text.replace(QChar::Nbsp, QLatin1Char(' '));
+  const QString shown = edit.toPlainText();
+  if (shown == text) return;
+  const qsizetype shorter = std::min(shown.size(), text.size());
+  qsizetype front = 0;
+  while (front < shorter && shown[front] == text[front]) ++front;
+  qsizetype back = 0;
+  while (back < shorter - front && shown[shown.size() - 1 - back] == text[text.size() - 1 - back]) {
+    ++back;
+  }
+  if (front == 0 && back == 0) return edit.setPlainText(text);
+  QTextCursor part(edit.document());
+  part.setPosition(static_cast<int>(front));
+  part.setPosition(static_cast<int>(shown.size() - back), QTextCursor::KeepAnchor);
+  part.insertText(text.mid(front, text.size() - back - front));
+  // Ctrl+Z must not bring back another combatant's note.
+  edit.document()->clearUndoRedoStacks();
+}
+
+/// Where the box is being typed into, the cursor stays before the same text.
+void ShowLine(QLineEdit& line, const QString& text) {
+  if (line.text() == text) return;
+  const bool typing = line.hasFocus();
+  const QString behind = line.text().mid(line.cursorPosition());
+  line.setText(text);
+  if (typing && text.endsWith(behind)) {
+    line.setCursorPosition(static_cast<int>(text.size() - behind.size()));
+  }
 }
 
 /// A modifier that is not zero stands out.
@@ -78,13 +110,15 @@ void ShowText(QObject* widget, const QString& text) {
   if (auto* label = qobject_cast<QLabel*>(widget)) {
     ShowLabel(*label, text);
   } else if (auto* line = qobject_cast<QLineEdit*>(widget)) {
-    // Setting an equal text would move the cursor.
-    if (line->text() != text) line->setText(text);
+    ShowLine(*line, text);
     MarkNonZero(*line);
   } else if (auto* note = qobject_cast<QPlainTextEdit*>(widget)) {
     ShowNote(*note, text);
   } else if (auto* group = qobject_cast<QGroupBox*>(widget)) {
     if (group->title() != text) group->setTitle(text);
+  } else if (auto* button = qobject_cast<QToolButton*>(widget)) {
+    button->setText(text);
+    button->setVisible(!text.isEmpty());
   }
 }
 
