@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 #include "tracker/fight/player_record.h"
@@ -33,14 +35,17 @@ enum class SlotForm {
 
 /// One key of a "[Slot...]" section.
 struct SlotKey {
+  using Member = std::variant<std::string PlayerRecord::*, Integer PlayerRecord::*,
+                              Boolean PlayerRecord::*, std::int32_t PlayerRecord::*>;
   const char* key;
   SlotForm form;
-  PlayerField::Member from;
+  Member from;
   /// Where the reader puts the value; not always where the writer took it from.
-  PlayerField::Member into;
+  Member into;
 };
 
-/// Every key of a slot's section, in the order of writing and of reading.
+/// Every key of a slot's section, in the order of writing and of reading; player_fields.def has the
+/// rows.
 const std::vector<SlotKey>& SlotKeys();
 
 /// What stands behind the "=".

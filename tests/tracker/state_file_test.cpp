@@ -53,6 +53,7 @@ PlayerRecord FilledRecord(Slot slot) {
     };
     std::visit(fill, field.member);
   }
+  std::swap(record.CurDamStun, record.CurDamOver);  // as the written file has them
   return record;
 }
 
