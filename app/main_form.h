@@ -169,8 +169,6 @@ class MainForm : private SequencerHost, private DiceRoller::Weapons {
   // The sheet. With nobody displayed these do nothing.
   void optInitMode(int option);
   void txtRRSLT_Change(const std::string& text);
-  /// Takes back what was typed into the current cell.
-  void GridX_Restore();
   void txtInit_Change(int index, const std::string& text);
   void txtReac_Change(int index, const std::string& text);
   /// A box of the combat page was edited: takes the text over into the record at once.

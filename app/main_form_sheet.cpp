@@ -75,7 +75,7 @@ void MainForm::FullAuto(Weapon weapon) {
 }
 
 void MainForm::TellMissingSkill(Weapon weapon, int testsBefore) {
-  if (ngdr.TestsStarted() == testsBefore || !WieldsInMelee(weapon)) return;
+  if (ngdr.TestsStarted() == testsBefore || !WieldsInMelee(Displayed(), weapon)) return;
   statusMessage = "No firing skill chosen for this weapon: base number 4 at any range";
 }
 
