@@ -190,6 +190,7 @@ void VisitControls(const MainForm& form, ControlVisitor& visitor) {
   visitor.Check({"mnuViewDark"}, form.darkColours);
   visitor.Text({"lblStatus"}, form.statusMessage);
   visitor.Text({"lblLogFailure"}, form.gmLog.lblLogFailure());
+  visitor.Text({"lblJournal"}, form.lblJournal);
 }
 
 }  // namespace ng

@@ -166,7 +166,7 @@ bool FightFiles::SaveState() {
   form_.StoreSheet();
   form_.fight.Recount();
   environment_.files.Replace(*path, StateFileText(form_.fight));
-  saved_ = form_.fight;
+  onDisk_ = {form_.fight, *path};
   form_.statusMessage = "Fight saved";
   const std::string leftOut = Joined(NamesLeftOut(form_.fight));
   if (!leftOut.empty()) {
@@ -203,11 +203,11 @@ void FightFiles::LoadState(const std::string& path) {
   const OrderPosition turn = form_.fight.LTurn;
   form_.sequencer.Reset();
   form_.sequencer.TakeUpTurn(turn);
-  saved_ = form_.fight;
+  onDisk_ = {form_.fight, path};
   form_.statusMessage = "Fight of " + Counted(form_.fight.NumPlayers, "combatant") + " restored";
 }
 
-bool FightFiles::Changed() const { return WithoutLooks(form_.fight) != WithoutLooks(saved_); }
+bool FightFiles::Changed() const { return WithoutLooks(form_.fight) != WithoutLooks(onDisk_.fight); }
 
 void FightFiles::NameNoteFile(const std::string& path) {
   form_.txtNoteFileName = path;

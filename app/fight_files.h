@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tracker/fight/fight.h"
@@ -9,6 +10,14 @@ namespace ng {
 
 class MainForm;
 struct Environment;
+
+/// What the disk holds of the fight. It is outside the fight and not taken back with it.
+struct OnDisk {
+  /// As it was saved or loaded last.
+  Fight fight;
+  /// The state file, empty before the first.
+  std::string path;
+};
 
 /// The files of the main window's File menu and notes page: characters, states and notes.
 class FightFiles {
@@ -34,6 +43,8 @@ class FightFiles {
 
   /// Whether the fight differs from what was saved or loaded last, looks and pages aside.
   bool Changed() const;
+  const OnDisk& onDisk() const { return onDisk_; }
+  void SetOnDisk(OnDisk onDisk) { onDisk_ = std::move(onDisk); }
 
   /// Fills the note box from its file, which is asked for when none is named. Cancelling that is an
   /// error and abandons the command.
@@ -49,7 +60,7 @@ class FightFiles {
 
   MainForm& form_;
   Environment& environment_;
-  Fight saved_;
+  OnDisk onDisk_;
 };
 
 }  // namespace ng

@@ -109,6 +109,8 @@ class MainForm : private SequencerHost, private DiceRoller::Weapons {
   /// The page that is open: combat, gear, person, notes.
   int tabMain = 0;
   std::string statusMessage = "Ready";
+  /// What is wrong with the journal of the fight, until it has been seen; otherwise empty.
+  std::string lblJournal;
   WindowLayout layout;
   bool closing = false;
 

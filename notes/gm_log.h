@@ -16,6 +16,7 @@ class GmLog {
 
   /// The lines in the order added.
   const std::vector<std::string>& lstGMinfo() const { return lstGMinfo_; }
+  const std::string& Path() const { return path_; }
   /// Adds a line. A file that cannot be written stops neither the list nor the command.
   void Add(const std::string& line);
 

@@ -149,18 +149,4 @@ void FakeUserSettings::Save(const std::string& section, const std::string& key, 
   values[section + "/" + key] = value;
 }
 
-std::string Quoted(std::string_view text) {
-  std::string result = "\"";
-  for (const char c : text) {
-    if (c >= ' ' && c <= '~' && c != '"' && c != '%') {
-      result += c;
-    } else {
-      std::array<char, 4> code{};
-      std::snprintf(code.data(), code.size(), "%%%02X", static_cast<unsigned char>(c));
-      result += code.data();
-    }
-  }
-  return result + "\"";
-}
-
 }  // namespace ng

@@ -8,6 +8,8 @@
 
 #include "app/act.h"
 #include "base/ports.h"
+#include "journal/act_text.h"
+#include "journal/entry.h"
 
 namespace ng {
 
@@ -76,13 +78,7 @@ class ScriptedUniform : public Uniform, public Script {
 /// unexpected question ends the test.
 class ScriptedPrompts : public Prompts, public Script {
  public:
-  struct Answer {
-    enum class Kind { Input, File, Cancel, Save, Discard, Modal };
-    Kind kind;
-    std::string text;
-    /// What is done in a modal form.
-    std::vector<Act> acts;
-  };
+  using Answer = ng::Answer;
 
   std::deque<Answer> answers;
   /// `message "..."`, `beep`, `input "..."`, one entry each.
@@ -116,8 +112,5 @@ class FakeUserSettings : public UserSettings {
 
   std::map<std::string, int> values;
 };
-
-/// A text in quotes with everything that is no plain character as "%" and two hexadecimal digits.
-std::string Quoted(std::string_view text);
 
 }  // namespace ng
