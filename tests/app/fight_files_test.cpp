@@ -144,6 +144,27 @@ TEST_F(FightFilesTest, AFailureLeavesTheOldFileOrWhatWasRead) {
   EXPECT_EQ(later.prompts.log.back(), "message \"File not found\"");
 }
 
+TEST_F(FightFilesTest, LineBreaksInNamesAndFiguresDoNotBreakTheFile) {
+  program.files.Put("C:\\DATA\\gear.dat", "0-1|Melee|1|Damage\n");
+  program.files.Put("C:\\chars\\ash.ng3",
+                    "[General]\nCharName=A^`[Slot2]\n[System]\nFinalize=True\n"
+                    "[Gear]\nGear0=Bow~1|6M^`KP=x\n");
+  program.main.Form_Load();
+  program.Do("mnuFileNew");
+  program.Import({0, 1});
+  program.Do("GridX_Click", program.fight.FindInOrder(1).Value());
+  program.Do("lstWeapon_Select", 1);
+  program.Do("cmdSetPrim");
+  program.prompts.TakeLog();
+  Save(program);
+  program.Do("mnuFileNew");
+  Load(program);
+  EXPECT_EQ(program.main.statusMessage, "Fight of 2 combatants restored");
+  EXPECT_EQ(program.fight.Players[1].Name, "A\r\n[Slot2]");
+  EXPECT_EQ(program.fight.Players[1].PrimWeapStatDamage, "6M  KP=x");
+  EXPECT_EQ(program.fight.Players[2].Name, "Birch");
+}
+
 TEST_F(FightFilesTest, ASaveNamesWhomItLeavesOut) {
   program.Do("GridX_Click", program.fight.FindInOrder(1).Value());
   program.Do("mnuPRemove");
