@@ -16,13 +16,14 @@ class FakeHost : public StateFileHost {
   std::string failingImport = "none";
   bool noteMissing = false;
 
-  void ImportCharacter(const std::string& fileName) override {
+  bool ImportCharacter(const std::string& fileName) override {
     if (fileName == failingImport) ThrowSubscript();
     const Slot slot = fight_.FindFreeSlot();
     if (slot == 0) ThrowSubscript();
     fight_.Players[slot].Name = "imported";
     fight_.Players[slot].CharacterData = slot;
     fight_.InitOrder[fight_.CountPlayers()] = slot;
+    return true;
   }
   std::string ShowNote(const std::string& noteFileName) override {
     if (noteMissing) throw RuntimeError(ErrorNumber::FileNotFound);
