@@ -69,7 +69,8 @@ SortedFiles Sorted(const std::vector<std::string>& paths) {
 
 /// The file's name alone where it lies in the character directory, so that it counts as the same
 /// file that the Open dialog finds there.
-std::string NameIn(std::string_view directory, const std::string& path) {
+std::string NameIn(const std::string& characterDirectory, const std::string& path) {
+  std::string_view directory = characterDirectory;
   while (!directory.empty() && HasSeparator(directory.substr(directory.size() - 1))) {
     directory.remove_suffix(1);
   }
@@ -81,7 +82,7 @@ std::string NameIn(std::string_view directory, const std::string& path) {
   };
   const bool inside =
       same(path.substr(0, length), directory) && HasSeparator(path.substr(length, 1));
-  return inside ? path.substr(length + 1) : path;
+  return inside ? ImportName(characterDirectory, path.substr(length + 1)) : path;
 }
 
 ImportTarget TargetOf(MainForm& form, Environment& environment) {
