@@ -69,7 +69,8 @@ SortedFiles Sorted(const std::vector<std::string>& paths) {
 
 /// The file's name alone where it lies in the character directory, so that it counts as the same
 /// file that the Open dialog finds there.
-std::string NameIn(std::string_view directory, const std::string& path) {
+std::string NameIn(const std::string& characterDirectory, const std::string& path) {
+  std::string_view directory = characterDirectory;
   while (!directory.empty() && HasSeparator(directory.substr(directory.size() - 1))) {
     directory.remove_suffix(1);
   }
@@ -81,11 +82,17 @@ std::string NameIn(std::string_view directory, const std::string& path) {
   };
   const bool inside =
       same(path.substr(0, length), directory) && HasSeparator(path.substr(length, 1));
-  return inside ? path.substr(length + 1) : path;
+  return inside ? ImportName(characterDirectory, path.substr(length + 1)) : path;
 }
 
 ImportTarget TargetOf(MainForm& form, Environment& environment) {
   return {environment.files, environment.settings, form.gearTable, form.fight, form.characters};
+}
+
+/// Whether the combatant's character file could be read.
+bool WasRead(const MainForm& form, Slot slot) {
+  const CharacterEntry* entry = form.characters.Of(form.fight.Players[slot]);
+  return entry != nullptr && !entry->unread;
 }
 
 /// A load that is under way, with the sheets that it has imported so far.
@@ -96,9 +103,9 @@ class Restoring : public StateFileHost {
         environment_(environment),
         progress_(environment.prompts, "Restoring the fight", combatants) {}
 
-  void ImportCharacter(const std::string& fileName) override {
+  bool ImportCharacter(const std::string& fileName) override {
     progress_.Step();
-    LoadCharacterFile(TargetOf(form_, environment_), sheets_, fileName);
+    return WasRead(form_, LoadCharacterFile(TargetOf(form_, environment_), sheets_, fileName));
   }
 
   std::string ShowNote(const std::string& noteFileName) override {
@@ -117,15 +124,17 @@ class Restoring : public StateFileHost {
 
 void FightFiles::ImportCharacters(const std::vector<std::string>& names) {
   Integer imported;
+  std::vector<std::string> unread;
   const auto finish = [&] {
     form_.GridX.RefreshGrid();
     form_.statusMessage = Counted(imported, "character") + " imported";
+    if (!unread.empty()) form_.statusMessage += "; could not be read: " + Joined(unread);
   };
   try {
     Progress progress(environment_.prompts, "Importing characters", static_cast<int>(names.size()));
     for (const std::string& name : names) {
       progress.Step();
-      ImportOne(name);
+      if (!ImportOne(name)) unread.push_back(name);
       imported += 1;
     }
   } catch (const RuntimeError&) {
@@ -136,10 +145,12 @@ void FightFiles::ImportCharacters(const std::vector<std::string>& names) {
   if (imported > 0) finish();
 }
 
-void FightFiles::ImportOne(const std::string& name) {
+bool FightFiles::ImportOne(const std::string& name) {
   form_.StoreSheet();
-  form_.XFerPC(LoadCharacterFile(TargetOf(form_, environment_), name));
+  const Slot slot = LoadCharacterFile(TargetOf(form_, environment_), name);
+  form_.XFerPC(slot);
   form_.ShowDerivedArmour();
+  return WasRead(form_, slot);
 }
 
 void FightFiles::OpenFiles(const std::vector<std::string>& paths) {
@@ -148,7 +159,7 @@ void FightFiles::OpenFiles(const std::vector<std::string>& paths) {
     environment_.prompts.Message("Only one state file can be opened at a time");
     return;
   }
-  if (!files.states.empty()) LoadState(files.states.front());
+  if (!files.states.empty() && !LoadState(files.states.front())) return;
   std::vector<std::string> names;
   for (const std::string& path : files.characters) {
     names.push_back(NameIn(environment_.settings.NG3Dir, path));
@@ -187,13 +198,18 @@ void FightFiles::LoadState() {
   if (path && !path->empty()) LoadState(*path);
 }
 
-void FightFiles::LoadState(const std::string& path) {
+bool FightFiles::LoadState(const std::string& path) {
   const ProfileFile file(environment_.files.ReadWhole(path));
+  if (!IsStateFile(file)) {
+    environment_.prompts.Message("Not a state file\r\n" + path);
+    return false;
+  }
   form_.StoreSheet();
   form_.ngdr.EndTest();
+  std::vector<std::string> withoutFile;
   try {
     Restoring host(form_, environment_, CombatantsIn(file));
-    ReadStateFile(file, form_.fight, host);
+    withoutFile = ReadStateFile(file, form_.fight, host);
   } catch (const RuntimeError&) {
     // Nothing of the sheet shown may be written over what was read.
     form_.ShowRestored(form_.fight.CurrentPCpointer);
@@ -204,7 +220,10 @@ void FightFiles::LoadState(const std::string& path) {
   form_.sequencer.Reset();
   form_.sequencer.TakeUpTurn(turn);
   onDisk_ = {form_.fight, path};
-  form_.statusMessage = "Fight of " + Counted(form_.fight.NumPlayers, "combatant") + " restored";
+  form_.statusMessage =
+      withoutFile.empty() ? "Fight of " + Counted(form_.fight.NumPlayers, "combatant") + " restored"
+                          : "Restored without the character files of: " + Joined(withoutFile);
+  return true;
 }
 
 bool FightFiles::Changed() const { return WithoutLooks(form_.fight) != WithoutLooks(onDisk_.fight); }

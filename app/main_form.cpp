@@ -99,7 +99,9 @@ void MainForm::mnuFileNew() {
 void MainForm::mnuFileOpen() {
   loader_.Form_Load();
   environment_.prompts.ShowModal(ModalForm::Loader);
-  fightFiles.ImportCharacters(FileNames(loader_.selectionList));
+  std::vector<std::string> names = FileNames(loader_.selectionList);
+  for (std::string& name : names) name = ImportName(environment_.settings.NG3Dir, name);
+  fightFiles.ImportCharacters(names);
 }
 
 void MainForm::Form_Drop(const std::string& names) { fightFiles.OpenFiles(FileNames(names)); }

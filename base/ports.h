@@ -11,6 +11,14 @@ namespace ng {
 // All of the outside that the logic knows. The session is given one of each at start; tests give
 // it recording fakes.
 
+/// The files of a directory as a file list shows them.
+struct FileList {
+  std::vector<std::string> names;
+  /// Files that are there but cannot be named: in the program's path texts they would be told from
+  /// nothing else.
+  int unlisted = 0;
+};
+
 /// Files by the program's own path texts, in which "\" separates and, on POSIX, "/" as well. An
 /// exact name that does not exist is looked for ignoring case, since the data directories come from
 /// a system that ignores it.
@@ -24,9 +32,9 @@ class Files {
   virtual void Replace(const std::string& path, std::string_view bytes) = 0;
   virtual void Append(const std::string& path, std::string_view bytes) = 0;
 
-  /// The names of the files of `directory` that end in `ending` (ASCII case ignored), sorted as
-  /// the file list shows them; none when the directory cannot be read.
-  virtual std::vector<std::string> List(const std::string& directory, std::string_view ending) = 0;
+  /// The names of the files of `directory` that end in `ending` (ASCII case ignored), sorted; none
+  /// when the directory cannot be read. Every name opens its file.
+  virtual FileList List(const std::string& directory, std::string_view ending) = 0;
 };
 
 /// The platform's uniform random source.

@@ -8,6 +8,7 @@ namespace ng {
 /// The platform's numbers for the runtime errors that a command can end with.
 enum class ErrorNumber {
   Overflow = 6,
+  OutOfMemory = 7,
   SubscriptOutOfRange = 9,
   TypeMismatch = 13,
   BadFileName = 52,

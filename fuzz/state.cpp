@@ -11,7 +11,7 @@ namespace {
 
 class NoImports : public ng::StateFileHost {
  public:
-  void ImportCharacter(const std::string&) override {}
+  bool ImportCharacter(const std::string&) override { return true; }
   std::string ShowNote(const std::string&) override { return {}; }
 };
 

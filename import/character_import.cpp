@@ -1,5 +1,6 @@
 #include "import/character_import.h"
 
+#include <optional>
 #include <utility>
 
 #include "app/settings/profile_file.h"
@@ -22,8 +23,10 @@ Integer EarlierImports(const Fight& fight, const std::string& fullName) {
 }
 
 ImportedCharacter ReadCharacter(const ImportTarget& target, const std::string& fullName) {
-  ProfileFile file(ReadProfileText(target.files, fullName).value_or(std::string()));
+  std::optional<std::string> text = ReadProfileText(target.files, fullName);
   ImportedCharacter character;
+  character.entry.unread = !text;
+  ProfileFile file(std::move(text).value_or(std::string()));
   PlayerRecord& record = character.record;
   record.Name = ImportedName(file);
   record.Filename = fullName;

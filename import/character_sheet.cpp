@@ -55,14 +55,15 @@ std::string AugmentedValue(std::string_view attributeText) {
 }
 
 void RefillPools(PlayerRecord& record, const CharacterEntry& entry) {
+  record.TBTTPrim = "0";
+  record.TBTTSec = "0";
+  if (entry.unread) return;
   const Integer combat = LenientInteger(entry.pools[0]);
   const Integer sheetSpell = LenientInteger(entry.spellPool);
   const Integer spell = sheetSpell != 0 ? sheetSpell : LenientInteger(entry.pools[3]);
   record.CP = AtLeast(combat - record.ArmorCPmod, 0);
   record.SP = AtLeast(spell - record.SD, 0);
   record.AS = LenientInteger(entry.astralPool);
-  record.TBTTPrim = "0";
-  record.TBTTSec = "0";
 }
 
 void RefreshPools(Fight& fight, const CharacterTable& characters) {

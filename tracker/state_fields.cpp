@@ -1,9 +1,11 @@
 #include "tracker/state_fields.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "app/settings/encoding.h"
 #include "base/number_text.h"
+#include "base/text.h"
 
 namespace ng {
 
@@ -20,8 +22,15 @@ const std::vector<SlotKey>& SlotKeys() {
 
 namespace {
 
+bool IsLineBreak(char c) { return c == '\r' || c == '\n'; }
+
 std::string Written(SlotForm form, const std::string& value) {
-  return form == SlotForm::Encoded ? EncodeNG3(value) : value;
+  if (form == SlotForm::Encoded) return EncodeNG3(value);
+  // A decoded name or figure of a character file may hold line breaks.
+  if (form == SlotForm::Name) return Replaced(Replaced(value, "\r", "^"), "\n", "`");
+  std::string line = value;
+  std::ranges::replace_if(line, IsLineBreak, ' ');
+  return line;
 }
 std::string Written(SlotForm form, Integer value) {
   return form == SlotForm::Emptied ? std::string{} : PrintForm(value);

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
 #include <span>
+#include <utility>
 
 #include "app/settings/encoding.h"
 #include "base/number_text.h"
@@ -81,7 +83,8 @@ class StateReader {
   StateReader(const ProfileFile& file, Fight& fight, StateFileHost& host)
       : file_(file), fight_(fight), host_(host) {}
 
-  void Read() {
+  /// Returns the combatants without their character files.
+  std::vector<std::string> Read() {
     fight_.NumPlayers = LenientInteger(Value("NumPlayers"));
     // The imports count the combatants again; the number of slots to read stays.
     const Integer slots = fight_.NumPlayers;
@@ -91,6 +94,7 @@ class StateReader {
     ReadCounters(kCounters);
     ReadCounters(kGreenRows);
     ReadTurns();
+    return std::move(withoutFile_);
   }
 
   /// What was read last.
@@ -104,12 +108,17 @@ class StateReader {
 
   void ReadSlot() {
     section_ = Numbered("Slot", slot_);
-    host_.ImportCharacter(std::string(Value("Filename")));
+    const std::string fileName(Value("Filename"));
+    const bool imported = host_.ImportCharacter(fileName);
     for (const SlotKey& key : SlotKeys()) {
       const std::string_view text = Value(key.key);
       TakeValue(fight_.Players[Slot::From(slot_)], key, text);
     }
     PlayerRecord& record = fight_.Players[Slot::From(slot_)];
+    // A nameless slot was a gap in the table, with no file to miss.
+    if (!imported && !record.Name.empty() && missing_.insert(fileName).second) {
+      withoutFile_.push_back(record.Name);
+    }
     key_ = "NoteFileName";
     if (!record.NoteFileName.empty()) record.Notes = host_.ShowNote(record.NoteFileName);
   }
@@ -137,6 +146,8 @@ class StateReader {
   std::string key_;
   /// 0 outside the slots.
   int slot_ = 0;
+  std::set<std::string> missing_;
+  std::vector<std::string> withoutFile_;
 };
 
 }  // namespace
@@ -153,15 +164,17 @@ std::vector<std::string> NamesLeftOut(const Fight& fight) {
   return names;
 }
 
+bool IsStateFile(const ProfileFile& file) { return file.HasSection(kSystem); }
+
 int CombatantsIn(const ProfileFile& file) {
   return static_cast<int>(std::clamp(LeadingNumber(file.Value(kSystem, "NumPlayers")), 0.0,
                                      static_cast<double>(Fight::kLastSlot)));
 }
 
-void ReadStateFile(const ProfileFile& file, Fight& fight, StateFileHost& host) {
+std::vector<std::string> ReadStateFile(const ProfileFile& file, Fight& fight, StateFileHost& host) {
   StateReader reader(file, fight, host);
   try {
-    reader.Read();
+    return reader.Read();
   } catch (const RuntimeError& error) {
     throw RuntimeError(error.Number(), reader.Place());
   }

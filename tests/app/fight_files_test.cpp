@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/number_text.h"
 #include "base/text.h"
 #include "fakes/test_program.h"
 
@@ -142,6 +143,72 @@ TEST_F(FightFilesTest, AFailureLeavesTheOldFileOrWhatWasRead) {
   later.prompts.answers.push_back({Kind::File, "D:\\gone.ngt", {}});
   later.Do("mnuFileLoad");
   EXPECT_EQ(later.prompts.log.back(), "message \"File not found\"");
+}
+
+TEST_F(FightFilesTest, WithoutItsCharacterFilesAFightKeepsItsPools) {
+  program.files.Put("C:\\chars\\birch.ng3",
+                    "[General]\nCharName=Birch\n[System]\nFinalize=True\n[Pools]\nCombat=5\n");
+  program.Do("Form_Drop", 0, "C:\\chars\\birch.ng3");
+  for (const int row : {1, 2, 3, 4}) {
+    program.Do("GridX_Click", row);
+    for (const char* button : {"cmdCPplus", "cmdSPplus", "cmdSPplus", "cmdADplus", "cmdSDplus"}) {
+      program.Do(button);
+    }
+  }
+  Save(program);
+  TestProgram later;
+  later.files.Put("C:\\chars\\birch.ng3", program.files.ReadWhole("C:\\chars\\birch.ng3"));
+  later.files.Put(kState, program.files.ReadWhole(kState));
+  Load(later);
+  // Ash::1 is of the same file.
+  EXPECT_EQ(later.main.statusMessage, "Restored without the character files of: Ash");
+  later.Do("mnuTReset");
+  const auto pools = [&](int slot) {
+    const PlayerRecord& r = later.fight.Players[slot];
+    return r.Name + " " + PlainText(r.CP) + PlainText(r.SP) + PlainText(r.SD) + PlainText(r.AS);
+  };
+  EXPECT_EQ(pools(1) + ", " + pools(3) + ", " + pools(4), "Ash 1111, Ash::1 1111, Birch::1 5010");
+
+  later.Do("Form_Drop", 0, "C:\\chars\\gone.ng3|C:\\chars\\birch.ng3");
+  EXPECT_EQ(later.main.statusMessage, "2 characters imported; could not be read: gone.ng3");
+  EXPECT_EQ(later.fight.Players[5].Name, "(NF)");
+}
+
+TEST_F(FightFilesTest, ARandomFileIsNoStateFileAndChangesNothing) {
+  const Fight before = program.fight;
+  for (const char* text : {"",
+                           "\x7F"
+                           "ELF",
+                           "[Slot1]\nName=Vex\n", "NumPlayers=1\n"}) {
+    program.files.Put(kState, text);
+    Load(program);
+    EXPECT_EQ(program.prompts.TakeLog().back(), "message \"Not a state file%0D%0A" + kState + "\"");
+  }
+  // Nor is what was dropped with it imported into a fight that it was not meant for.
+  program.Do("Form_Drop", 0, kState + "|C:\\chars\\ash.ng3");
+  EXPECT_TRUE(program.fight == before);
+  EXPECT_EQ(program.main.statusMessage, "Ready");
+}
+
+TEST_F(FightFilesTest, LineBreaksInNamesAndFiguresDoNotBreakTheFile) {
+  program.files.Put("C:\\DATA\\gear.dat", "0-1|Melee|1|Damage\n");
+  program.files.Put("C:\\chars\\ash.ng3",
+                    "[General]\nCharName=A^`[Slot2]\n[System]\nFinalize=True\n"
+                    "[Gear]\nGear0=Bow~1|6M^`KP=x\n");
+  program.main.Form_Load();
+  program.Do("mnuFileNew");
+  program.Import({0, 1});
+  program.Do("GridX_Click", program.fight.FindInOrder(1).Value());
+  program.Do("lstWeapon_Select", 1);
+  program.Do("cmdSetPrim");
+  program.prompts.TakeLog();
+  Save(program);
+  program.Do("mnuFileNew");
+  Load(program);
+  EXPECT_EQ(program.main.statusMessage, "Fight of 2 combatants restored");
+  EXPECT_EQ(program.fight.Players[1].Name, "A\r\n[Slot2]");
+  EXPECT_EQ(program.fight.Players[1].PrimWeapStatDamage, "6M  KP=x");
+  EXPECT_EQ(program.fight.Players[2].Name, "Birch");
 }
 
 TEST_F(FightFilesTest, ASaveNamesWhomItLeavesOut) {

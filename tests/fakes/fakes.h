@@ -25,10 +25,12 @@ class FakeFiles : public Files {
   std::string ReadWhole(const std::string& path) override;
   void Replace(const std::string& path, std::string_view bytes) override;
   void Append(const std::string& path, std::string_view bytes) override;
-  std::vector<std::string> List(const std::string& directory, std::string_view ending) override;
+  FileList List(const std::string& directory, std::string_view ending) override;
 
   /// The n-th write from now on finds the disk full; 0 for none.
   int failingWrite = 0;
+  /// How many files every directory has that cannot be named.
+  int unlisted = 0;
   /// How often each file was read.
   std::map<std::string, int> reads;
 

@@ -315,5 +315,24 @@ TEST(Loader, ListsSelectsAndKeepsTheDirectory) {
   EXPECT_EQ(program.fight.CountPlayers().Value(), 0);
 }
 
+TEST(Loader, NamesWithAColonImportAndThoseThatCannotBeWrittenAreCounted) {
+  TestProgram program;
+  const std::string path = "C:\\chars\\vex: reborn.ng3";
+  program.files.Put(path, "[General]\nCharName=Vex\n[System]\nFinalize=True\n");
+  program.Import({0});
+  EXPECT_EQ(program.session.loader.selectionList, "vex: reborn.ng3|");
+  program.Do("Form_Drop", 0, path);
+  EXPECT_EQ(program.Order(), "Vex Vex::1");
+  const std::pair<int, const char*> cases[] = {
+      {0, ""},
+      {1, "1 file not listed: its name has characters this program cannot write"},
+      {2, "2 files not listed: their names have characters this program cannot write"}};
+  for (const auto& [count, text] : cases) {
+    program.files.unlisted = count;
+    program.session.loader.Form_Load();
+    EXPECT_EQ(program.session.loader.lblUnlisted, text);
+  }
+}
+
 }  // namespace
 }  // namespace ng

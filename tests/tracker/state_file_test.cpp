@@ -16,7 +16,7 @@ class FakeHost : public StateFileHost {
   std::string failingImport = "none";
   bool noteMissing = false;
 
-  void ImportCharacter(const std::string& fileName) override {
+  bool ImportCharacter(const std::string& fileName) override {
     if (fileName == failingImport) ThrowSubscript();
     const Slot slot = fight_.FindFreeSlot();
     if (slot == 0) ThrowSubscript();
@@ -24,6 +24,7 @@ class FakeHost : public StateFileHost {
     fight_.Players[slot].CharacterData = CharacterIndex::From(slot.Value());
     fight_.Recount();
     fight_.InitOrder[OrderPosition::From(fight_.NumPlayers)] = slot;
+    return true;
   }
   std::string ShowNote(const std::string& noteFileName) override {
     if (noteMissing) throw RuntimeError(ErrorNumber::FileNotFound);

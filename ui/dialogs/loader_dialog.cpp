@@ -35,12 +35,14 @@ LoaderDialog::LoaderDialog(Session& session, QWidget* parent)
       session_(session),
       directories_(
           new DirectoryPicker(QStringLiteral("Drive1"), QStringLiteral("DirListBox"), this)),
-      files_(new QListWidget(this)) {
+      files_(new QListWidget(this)),
+      unlisted_(new QLabel(this)) {
   setObjectName(QStringLiteral("frmLoader"));
   setWindowTitle(QString::fromLatin1(LoaderForm::kCaption));
   resize(596, 398);
   files_->setObjectName(QStringLiteral("filesXML"));
   files_->setAccessibleName("Files");
+  unlisted_->setObjectName(QStringLiteral("lblUnlisted"));
   files_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   BuildLayout();
   Connect();
@@ -76,7 +78,8 @@ void LoaderDialog::BuildLayout() {
   grid->addWidget(directories_->Tree(), 3, 0);
   grid->addWidget(LabelFor(files_, LoaderForm::kFilesLabel, 'F'), 0, 1);
   grid->addWidget(files_, 1, 1, 3, 1);
-  grid->addLayout(buttons, 4, 0, 1, 2);
+  grid->addWidget(unlisted_, 4, 0, 1, 2);
+  grid->addLayout(buttons, 5, 0, 1, 2);
   grid->setRowStretch(3, 1);
   // Both halves are equally wide, whatever their lists hold.
   for (QWidget* list :
@@ -86,7 +89,7 @@ void LoaderDialog::BuildLayout() {
   }
   grid->setColumnStretch(0, 1);
   grid->setColumnStretch(1, 1);
-  grid->setRowMinimumHeight(4, 40);
+  grid->setRowMinimumHeight(5, 40);
   setTabOrder(directories_->Drives(), directories_->Tree());
   setTabOrder(directories_->Tree(), files_);
   setTabOrder(files_, load);
@@ -127,6 +130,8 @@ void LoaderDialog::TakeSelection() {
 
 void LoaderDialog::Paint() {
   directories_->ShowDirectory(session_.loader.DirListBox);
+  unlisted_->setText(ToQString(session_.loader.lblUnlisted));
+  unlisted_->setVisible(!session_.loader.lblUnlisted.empty());
   PaintFiles();
 }
 

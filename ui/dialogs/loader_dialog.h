@@ -2,6 +2,7 @@
 
 #include <QDialog>
 
+class QLabel;
 class QListWidget;
 
 namespace ng {
@@ -30,6 +31,7 @@ class LoaderDialog : public QDialog {
   Session& session_;
   DirectoryPicker* directories_;
   QListWidget* files_;
+  QLabel* unlisted_;
   bool painting_ = false;
 };
 
