@@ -11,7 +11,7 @@ namespace ng {
 /// The menus of the main window, in their order.
 enum class Menu { None, File, Turn, Combatant, View, Help };
 
-/// A menu's title, with the mnemonic marked by "&".
+/// A menu's title, with "&" before the mnemonic.
 struct MenuTitle {
   Menu menu;
   const char* text;
@@ -22,7 +22,7 @@ inline constexpr MenuTitle kMenuTitles[] = {{Menu::File, "&File"},
                                             {Menu::View, "&View"},
                                             {Menu::Help, "&Help"}};
 
-/// A command: what runs it, and how it stands in the menus and on the toolbar. Menus, toolbar, the
+/// A command: what runs it, and how it appears in the menus and on the toolbar. Menus, toolbar, the
 /// door and the tests all walk the one table of these.
 struct Command {
   /// Of the act: the control's name, with "_Event" behind it where the control has several, and
@@ -33,7 +33,7 @@ struct Command {
   Menu menu = Menu::None;
   /// Entries of a menu with different groups are kept apart by a line.
   int group = 0;
-  /// With the mnemonic marked by "&".
+  /// With "&" before the mnemonic.
   const char* text = "";
   /// In the toolkit's portable form ("Ctrl+Shift+N").
   const char* shortcut = "";
@@ -50,10 +50,10 @@ struct Command {
 /// further.
 std::string PlainWords(std::string_view text);
 
-/// All commands; those of the menus stand in menu order.
+/// All commands; those of the menus are in menu order.
 std::span<const Command> Commands();
 
-/// The toolbar's keys in its order; an empty one stands for a gap.
+/// The toolbar's keys in its order; an empty one is a gap.
 std::span<const char* const> ToolbarKeys();
 
 /// Null when no command has the name.

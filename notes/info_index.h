@@ -9,7 +9,7 @@
 
 namespace ng {
 
-/// The game master's index of reference entries: where in "info.dat" each name stands.
+/// The game master's index of reference entries: on which line of "info.dat" each name is.
 class InfoIndex {
  public:
   static constexpr int kLastEntry = 200;
@@ -37,7 +37,7 @@ class InfoIndex {
 
   /// What the file says about an entry: the text behind the first "|" of its line and the lines
   /// that follow, comments included, up to the next entry. The file is read again; none when it has
-  /// become too short or the entry is not there. Throws the platform's file errors, Subscript out
+  /// become too short or the entry is not there. Throws the file errors, Subscript out
   /// of range for an index outside 0 to 200.
   std::vector<std::string> EntryLines(Files& files, int index) const;
   /// The same as one text, its lines ended by CR LF.

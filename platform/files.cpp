@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 
 QString FileName(const fs::path& path) { return QString::fromStdU16String(path.u16string()); }
 
-/// Why a file could not be opened, by the platform's number.
+/// Why a file could not be opened, by the program's own error number.
 [[noreturn]] void ThrowOpenError(const fs::path& path) {
   std::error_code error;
   if (fs::is_directory(path, error)) throw RuntimeError(ErrorNumber::PathFileAccess);
@@ -51,7 +51,8 @@ QString FileName(const fs::path& path) { return QString::fromStdU16String(path.u
   }
 }
 
-/// Whether the device took every byte. The toolkit itself puts up with a write that broke off.
+/// Whether the device took every byte. The toolkit itself reports no error for a write that broke
+/// off.
 bool WriteAll(QFileDevice& file, std::string_view bytes) {
   const auto size = static_cast<qint64>(bytes.size());
   return file.write(bytes.data(), size) == size && file.flush();

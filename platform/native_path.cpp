@@ -26,7 +26,7 @@ bool SameIgnoringCase(const fs::path& a, const fs::path& b) {
 }
 
 /// The entry of `directory` that has this name but for its case. Of several the first in the order
-/// of their names, so that the choice does not hang on the file system.
+/// of their names, so that the choice does not depend on the file system.
 fs::path FoundIgnoringCase(const fs::path& directory, const fs::path& name) {
   std::error_code error;
   fs::path found;

@@ -45,7 +45,7 @@ void ColourBadge(QLabel& badge) {
   const QColor row = RowColour(badge.text());
   QPalette colours;
   colours.setColor(QPalette::Base, row.isValid() ? row : Theme::Current().group);
-  // Black stands on the colours of the rows, in either theme.
+  // On the colours of the rows the text is black, in either theme.
   if (row.isValid()) colours.setColor(QPalette::WindowText, Qt::black);
   badge.setPalette(colours);
 }
@@ -89,7 +89,7 @@ void TrackerStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
       return PaintRadioButton(*painter, *option);
     case PE_PanelLineEdit: {
       const auto* edit = qstyleoption_cast<const QStyleOptionFrame*>(option);
-      // One without a frame stands in another widget, which has one.
+      // One without a frame is in another widget, which has one.
       if (edit == nullptr || edit->lineWidth == 0) break;
       return PaintLineEdit(*painter, *edit, widget);
     }

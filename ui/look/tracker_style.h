@@ -10,7 +10,7 @@ namespace ng {
 ///   - "tone", of a label, line edit or tool button: its text is "muted", or stands out ("accent",
 ///   "alarm");
 ///   - "nonZero", of a line edit: whether it holds a modifier that counts;
-///   - "shape", of a push button: "caption" for one that stands before a box.
+///   - "shape", of a push button: "caption" for one before a box.
 class TrackerStyle : public QProxyStyle {
   Q_OBJECT
 

@@ -17,7 +17,7 @@ QVariant AlignmentOf(int column) {
   return QVariant::fromValue(kAlignments[static_cast<std::size_t>(column)]);
 }
 
-/// The platform numbers colours 0xBBGGRR.
+/// The colours are numbers 0xBBGGRR.
 QColor ToColor(InitiativeGrid::Colour colour) {
   const int number = static_cast<int>(colour);
   return QColor(number & 0xFF, (number >> 8) & 0xFF, (number >> 16) & 0xFF);
