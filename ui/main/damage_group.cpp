@@ -19,14 +19,14 @@ namespace {
 constexpr int kMaxHeight = 168;
 /// "Physical" in the larger text.
 constexpr int kTrackNameWidth = 55;
-constexpr int kCountWidth = 40;
+constexpr int kCountWidth = 34;
 constexpr int kWordsGap = 4;
 constexpr int kCountPoints = 17;
 constexpr int kTallButton = 42;
 /// Every pixel more is missing from the names of the wounds in the least window.
 constexpr int kTallButtonWidth = kSmallButtonWidth;
 /// Room between the wounds and the single steps.
-constexpr int kPartGap = 8;
+constexpr int kPartGap = 4;
 
 struct TrackNames {
   const char* title;
