@@ -29,7 +29,7 @@ void Edit(Session& session, const Act& act) {
   session.main.Box_Change(session.main.*panel.*box, act.text);
 }
 
-/// An edit of a text box that stands once for each weapon.
+/// An edit of a text box that there is for each weapon.
 template <PerWeapon<std::string> WeaponPanel::*box>
 void EditWeapon(Session& session, const Act& act) {
   session.main.WeaponBox_Change((session.main.weapons.*box)[Element(act)], act.text);

@@ -39,7 +39,7 @@ constexpr bool IsChange(Effect effect) {
   return effect == Effect::Change || effect == Effect::Edit;
 }
 
-/// A command: what runs it, and how it stands in the menus and on the toolbar. Menus, toolbar, the
+/// A command: what runs it, and how it appears in the menus and on the toolbar. Menus, toolbar, the
 /// door and the tests all walk the one table of these.
 struct Command {
   /// Of the act: the control's name, with "_Event" behind it where the control has several, and

@@ -14,13 +14,13 @@ namespace {
 constexpr const char* kStateFilter = "State File (*.ngt)|*.ngt";
 constexpr const char* kNoteFilter = "Text Files (*.txt)|*.txt";
 
-/// What a look at somebody else changes is no change of the fight.
+/// Displaying somebody else is no change of the fight.
 Fight WithoutLooks(const Fight& fight) {
   Fight plain = fight;
   plain.CurrentPCpointer = 0;
   for (PlayerRecord& record : plain.Players) {
     record.lastTab = 0;
-    // Worked out anew whenever the combatant is displayed.
+    // Calculated again whenever the combatant is displayed.
     record.URCPrim.clear();
     record.URCSec.clear();
   }
@@ -67,7 +67,7 @@ SortedFiles Sorted(const std::vector<std::string>& paths) {
   return sorted;
 }
 
-/// The file's name alone where it lies in the character directory, so that it counts as the same
+/// The file's name alone where it is in the character directory, so that it counts as the same
 /// file that the Open dialog finds there.
 std::string NameIn(const std::string& characterDirectory, const std::string& path) {
   std::string_view directory = characterDirectory;
@@ -166,7 +166,7 @@ void FightFiles::OpenFiles(const std::vector<std::string>& paths) {
   }
   ImportCharacters(names);
   if (!files.others.empty()) {
-    form_.statusMessage = "Neither a character nor a state file: " + files.others.front();
+    form_.statusMessage = "Not a character or state file: " + files.others.front();
   }
 }
 
@@ -181,13 +181,13 @@ bool FightFiles::SaveState() {
   form_.statusMessage = "Fight saved";
   const std::string leftOut = Joined(NamesLeftOut(form_.fight));
   if (!leftOut.empty()) {
-    form_.statusMessage += "; beyond slot " + PlainText(form_.fight.NumPlayers) +
-                           " and so not in the file: " + leftOut;
+    form_.statusMessage += ". Not saved (beyond slot " + PlainText(form_.fight.NumPlayers) +
+                           "): " + leftOut;
   }
   // The file names the note files and holds no notes.
   const std::string unfiled = Joined(NamesWithUnfiledNotes(form_.fight));
   if (!unfiled.empty()) {
-    form_.statusMessage += "; notes without a file of their own are not in it: " + unfiled;
+    form_.statusMessage += ". Notes not saved (no note file): " + unfiled;
   }
   return true;
 }

@@ -9,13 +9,13 @@
 namespace ng {
 namespace {
 
-/// What the columns behind the name hold, for lines that the gear table tells nothing about.
+/// What the columns after the name hold, for lines that the gear table says nothing about.
 struct ListColumns {
   SheetList list;
   std::array<std::string_view, 5> names;
 };
 constexpr std::array<ListColumns, 6> kColumns = {{
-    {SheetList::Weapon, {"Damage", "Concealability", "Figures", "Ammunition", "Weight"}},
+    {SheetList::Weapon, {"Damage", "Concealability", "Details", "Ammunition", "Weight"}},
     {SheetList::Armor, {"Concealability", "Ballistic", "Impact", "Weight"}},
     {SheetList::Active, {"Rating", "Kind"}},
     {SheetList::Other, {"Rating", "Kind"}},
@@ -23,7 +23,7 @@ constexpr std::array<ListColumns, 6> kColumns = {{
     {SheetList::Contacts, {"Level"}},
 }};
 
-/// "CYB: ", "SPL: " and the like tell where a line comes from and are no part of the name.
+/// "CYB: ", "SPL: " and the like say where a line comes from and are no part of the name.
 constexpr std::size_t kMarkLength = 5;
 
 std::string WithoutMark(SheetList list, const std::string& name) {
@@ -32,7 +32,7 @@ std::string WithoutMark(SheetList list, const std::string& name) {
   return name.substr(kMarkLength);
 }
 
-/// A weapon may stand in the reference file without its class code.
+/// A weapon may be in the reference file without its class code.
 std::string WithoutClass(const std::string& name) {
   return std::string(Trimmed(std::string_view(name).substr(0, name.rfind('('))));
 }
@@ -64,7 +64,7 @@ void InfoForm::Fill() {
   txtReference.clear();
   const std::string* line = form_.sheet.Line(list_, Marked(list_));
   if (line == nullptr) {
-    lblItem = "Mark a line of a list first";
+    lblItem = "Select a line first";
     return;
   }
   const std::string text = CleanItemText(*line);

@@ -91,8 +91,8 @@ void MainForm::mnuFileNew() {
   actions.RemoveAll();
   const Integer left = fight.CountPlayers();
   if (left > 0) {
-    statusMessage = "Beyond a gap in the table " + PlainText(left) +
-                    (left == 1 ? " combatant remains" : " combatants remain");
+    statusMessage = PlainText(left) + (left == 1 ? " combatant remains" : " combatants remain") +
+                    " beyond an empty slot";
   }
 }
 

@@ -35,8 +35,8 @@ Integer StrictInteger(std::string_view text);
 std::string PlainText(double value);
 std::string PlainText(Integer value);
 
-/// A number as the print statement writes it to files: a blank before one that is not negative,
-/// and a blank behind it.
+/// A number as it is written to files: a blank before one that is not negative, and a blank after
+/// it.
 std::string PrintForm(std::int32_t value);
 std::string PrintForm(Integer value);
 

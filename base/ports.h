@@ -26,7 +26,8 @@ class Files {
  public:
   virtual ~Files() = default;
 
-  /// The whole content. Throws the platform's file errors ("File not found", "Path not found").
+  /// The whole content. Throws the file errors of runtime_error.h ("File not found", "Path not
+  /// found").
   virtual std::string ReadWhole(const std::string& path) = 0;
   /// Replaces the file by `bytes` in one step: a failure on the way leaves the old file whole.
   virtual void Replace(const std::string& path, std::string_view bytes) = 0;
@@ -37,7 +38,7 @@ class Files {
   virtual FileList List(const std::string& directory, std::string_view ending) = 0;
 };
 
-/// The platform's uniform random source.
+/// The uniform random source.
 class Uniform {
  public:
   virtual ~Uniform() = default;
@@ -67,7 +68,7 @@ class Prompts {
 
   /// A box with an OK button and the application's title; returns when it is closed.
   virtual void Message(std::string_view text) = 0;
-  /// An input box; Cancel gives the empty text, as the platform's does.
+  /// An input box; Cancel gives the empty text.
   virtual std::string Input(std::string_view prompt) = 0;
   virtual void Beep() = 0;
   /// The chosen path, or nothing on Cancel.

@@ -55,7 +55,7 @@ fs::path PathToWrite(const std::string& path) {
   return native;
 }
 
-/// Why a file could not be opened, by the platform's number.
+/// Why a file could not be opened, by the program's own error number.
 [[noreturn]] void ThrowOpenError(const fs::path& path) {
   std::error_code error;
   if (fs::exists(path, error)) throw RuntimeError(ErrorNumber::PermissionDenied);
@@ -86,7 +86,8 @@ fs::path PathToWrite(const std::string& path) {
   }
 }
 
-/// Whether the device took every byte. The toolkit itself puts up with a write that broke off.
+/// Whether the device took every byte. The toolkit itself reports no error for a write that broke
+/// off.
 bool WriteAll(QFileDevice& file, std::string_view bytes) {
   const auto size = static_cast<qint64>(bytes.size());
   return file.write(bytes.data(), size) == size && file.flush();

@@ -11,7 +11,7 @@
 namespace ng {
 namespace {
 
-/// The platform's buffer of 4096 characters holds the value and an end mark.
+/// Values are read into 4096 characters, as *.ini files are elsewhere; the last is an end mark.
 constexpr std::size_t kLongestValue = 4095;
 
 /// Length and first, middle and last letter, whatever their case. Names that are equal have equal

@@ -11,7 +11,7 @@
 namespace ng {
 
 /// An initialisation file ("[Section]" lines, then "Key=Value" lines), parsed once and asked as
-/// often as wanted. Reads as the platform's profile reader does: the first section of a name and
+/// often as wanted. Reads *.ini files as they are read elsewhere: the first section of a name and
 /// the first key in it count, ASCII case is ignored, blanks and tabs round key and value go, one
 /// pair of equal quotes round the whole value goes, lines that begin with ";" are comments.
 class ProfileFile {
@@ -82,7 +82,7 @@ class ProfileFile {
   mutable std::string_view lastName_;
 };
 
-/// Where the program finds what stands beside it.
+/// Where the program finds what is beside it.
 struct ProgramLocation {
   /// The first program argument as it stands, empty when there is none: the settings file to read.
   std::string commandLine;

@@ -115,7 +115,7 @@ TEST_F(FightFilesTest, DroppedFilesAreOpenedTheStateFirst) {
   EXPECT_EQ(later.prompts.TakeLog().back(),
             "message \"Only one state file can be opened at a time\"");
   later.Do("Form_Drop", 0, "D:\\map.png");
-  EXPECT_EQ(later.main.statusMessage, "Neither a character nor a state file: D:\\map.png");
+  EXPECT_EQ(later.main.statusMessage, "Not a character or state file: D:\\map.png");
   EXPECT_EQ(later.fight.CountPlayers().Value(), 5);
 }
 
@@ -216,7 +216,7 @@ TEST_F(FightFilesTest, ASaveNamesWhomItLeavesOut) {
   program.Do("mnuPRemove");
   Save(program);
   EXPECT_EQ(program.main.statusMessage,
-            "Fight saved; beyond slot 2 and so not in the file: Ash::1");
+            "Fight saved. Not saved (beyond slot 2): Ash::1");
 }
 
 TEST_F(FightFilesTest, ClosingAsksForAChangedFightOnly) {
@@ -259,7 +259,7 @@ TEST_F(FightFilesTest, NotesHaveAFileOfTheirOwnOrStayWhileTheProgramRuns) {
   program.Do("txtNotes", 0, "talks\r\nfirst_");
   Save(program);
   EXPECT_EQ(program.main.statusMessage,
-            "Fight saved; notes without a file of their own are not in it: " +
+            "Fight saved. Notes not saved (no note file): " +
                 program.main.header.lblName2);
   program.prompts.TakeLog();
   program.prompts.answers.push_back({Kind::Cancel, {}, {}});

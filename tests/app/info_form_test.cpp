@@ -16,7 +16,7 @@ TEST(InfoForm, ShowsEveryFigureOfTheMarkedLineAndItsEntry) {
   program.Do("Form_Drop", 0, "C:\\chars\\vex.ng3");
   const InfoForm& info = program.main.itemInfo;
   program.Do("mnuViewInfo");
-  EXPECT_EQ(info.lblItem, "Mark a line of a list first");
+  EXPECT_EQ(info.lblItem, "Select a line first");
 
   // What a line holds beyond the columns of its list comes from the character file.
   program.Do("lstWeapon_Select", 1);

@@ -15,7 +15,7 @@ TEST(Encoding, EscapesTheFourAndLosesTheirSubstitutes) {
   EXPECT_EQ(DecodeNG3(EncodeNG3("snake_case ~ ^ `")), "snake case \t \r \n");
 }
 
-TEST(ProfileFile, ReadsAsThePlatformDoes) {
+TEST(ProfileFile, ReadsSectionsAndKeys) {
   const ProfileFile file(
       "before=nothing\r\n"
       "; [Section] of a comment\n"

@@ -121,7 +121,7 @@ TEST(Grid, TypingCanBeTakenBackUntilTheCellIsLeft) {
   program.Do("GridX_Roll", 2);
   program.Do("GridX_Restore");
   EXPECT_EQ(program.fight.Players[2].CondCode, "x");
-  EXPECT_EQ(roll(2), 3);
+  EXPECT_EQ(program.main.GridX.RowAt(2).text[1], "3");
   program.Do("GridX_Click", 2);
   type("5");
   program.Do("txtRRSLT", 0, "8");

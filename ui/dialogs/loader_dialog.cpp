@@ -16,7 +16,7 @@
 namespace ng {
 namespace {
 
-/// A label of the form with the mnemonic marked. The blanks in front set it in a little.
+/// A label of the form with its mnemonic. The blanks in front indent it a little.
 QString Caption(const char* label, char mnemonic) {
   QString text = QString::fromLatin1(label);
   return text.insert(text.indexOf(QLatin1Char(mnemonic)), QLatin1Char('&'));

@@ -27,8 +27,8 @@ const QString& Title() {
   return title;
 }
 
-/// "State File (*.ngt)|*.ngt" in the toolkit's form, in which the pattern stands in parentheses at
-/// the end of the description.
+/// "State File (*.ngt)|*.ngt" in the toolkit's form, which has the pattern in parentheses at the
+/// end of the description.
 QString ToolkitFilter(const std::string& filter) {
   const QStringList parts = ToQString(filter).split(QLatin1Char('|'));
   QStringList filters;
@@ -54,8 +54,8 @@ std::optional<std::string> AskForFile(QWidget* parent, const FileDialog& dialog,
   return PathText(box.selectedFiles().constFirst());
 }
 
-/// The box of a piece of work. It stays until the work is done: while it stands nothing else can be
-/// begun, and a command runs to its end before the next.
+/// The box of a piece of work. It stays until the work is done, so that nothing else can be begun
+/// before, and a command runs to its end before the next.
 class WorkBox : public QProgressDialog {
  public:
   using QProgressDialog::QProgressDialog;
@@ -71,7 +71,7 @@ QMessageBox::StandardButton Ask(QWidget* parent, const QString& text,
   QMessageBox box(QMessageBox::NoIcon, Title(), text, buttons, parent);
   box.setTextFormat(Qt::PlainText);
   for (QAbstractButton* button : box.buttons()) button->setIcon({});
-  // The box is a grid that takes its width from what stands in it.
+  // The box is a grid that takes its width from its contents.
   if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
     grid->addItem(new QSpacerItem(kBoxWidth, 0), grid->rowCount(), 0, 1, grid->columnCount());
   }

@@ -18,8 +18,8 @@ class QtPrompts : public Prompts {
  public:
   /// The session whose forms the modal dialogs show.
   void Attach(Session& session) { session_ = &session; }
-  /// The window that the dialogs stand before, and what it does to show how far a command has come
-  /// when the command asks something in between.
+  /// The window that the dialogs open in front of, and what it does to show how far a command has
+  /// come when the command asks something in between.
   void SetMainWindow(QWidget& window, std::function<void()> paint);
 
   void Message(std::string_view text) override;

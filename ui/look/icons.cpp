@@ -13,7 +13,7 @@
 namespace ng {
 namespace {
 
-/// All drawings stand on a square grid of this many units.
+/// All drawings are made on a square grid of this many units.
 constexpr int kGrid = 24;
 
 /// Lines to be stroked and areas to be filled.

@@ -30,7 +30,7 @@ void Name(QWidget* widget, const Naming& naming) {
   widget->setToolTip(naming.tip);
 }
 
-/// The column that takes what the others leave is the name, which says more than any figure.
+/// The column that takes what the others leave is the name, which says more than any number.
 constexpr int kNameRoom = 150;
 
 /// A list whose columns follow its width.

@@ -58,7 +58,7 @@ QVBoxLayout* MakeColumn();
 /// A hairline between two parts of a group.
 QFrame* MakeLine(Qt::Orientation orientation, QWidget* parent);
 
-/// Muted words on one line that say what stands beside them.
+/// Muted words on one line that say what is beside them.
 QLabel* MakeCaption(const QString& text, QWidget* parent);
 /// A bold text that the program fills in; it holds its place when empty.
 QLabel* MakeValue(const QString& name, QWidget* parent);

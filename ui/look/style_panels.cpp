@@ -15,7 +15,7 @@ constexpr qreal kBadgeRadius = 4;
 constexpr qreal kFieldRadius = 3;
 constexpr qreal kScrollingRadius = 2;
 
-/// How far the upper edge of a group's frame lies below its title's.
+/// How far the upper edge of a group's frame is below its title's.
 constexpr int kGroupTop = 8;
 constexpr int kTitleLeft = 8;
 constexpr int kTitlePadding = 8;

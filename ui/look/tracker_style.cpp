@@ -40,7 +40,7 @@ void ColourBadge(QLabel& badge, TurnState state) {
   const bool plain = colour == RowColour::White;
   QPalette colours;
   colours.setColor(QPalette::Base, plain ? Theme::Current().group : ToQColor(colour));
-  // Black stands on the colours of the rows, in either theme.
+  // On the colours of the rows the text is black, in either theme.
   if (!plain) colours.setColor(QPalette::WindowText, Qt::black);
   badge.setPalette(colours);
 }

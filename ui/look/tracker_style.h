@@ -11,7 +11,7 @@ namespace ng {
 ///   "alarm");
 ///   - "nonZero", of a line edit: whether it holds a modifier that counts;
 ///   - "turnState", of a badge: the TurnState whose row colour it has;
-///   - "shape", of a push button: "caption" for one that stands before a box.
+///   - "shape", of a push button: "caption" for one before a box.
 class TrackerStyle : public QProxyStyle {
   Q_OBJECT
 

@@ -50,7 +50,7 @@ QBoxLayout* HeaderPanelView::BuildIdentity() {
   badge->setFont(InterfaceFont(10, true));
   badge->setAlignment(Qt::AlignCenter);
   badge->setFixedSize(kBadgeWidth, 22);
-  badge->setToolTip("Where the combatant stands in the turn");
+  badge->setToolTip("The combatant's state in this turn");
   auto* race = new ElidedLabel(this);
   race->setObjectName(QStringLiteral("lblRace2"));
   race->setProperty("tone", "muted");

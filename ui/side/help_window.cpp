@@ -21,6 +21,7 @@ namespace {
 
 constexpr int kTopicsWidth = 200;
 constexpr int kCellPadding = 4;
+constexpr int kBelowTable = 12;
 constexpr QSize kSize(860, 600);
 constexpr QSize kLeastSize(640, 400);
 
@@ -36,6 +37,7 @@ void FormatTable(QTextTable& table) {
   format.setBorder(0);
   format.setCellSpacing(0);
   format.setCellPadding(kCellPadding);
+  format.setBottomMargin(kBelowTable);
   format.setWidth(QTextLength(QTextLength::PercentageLength, 100));
   QList<QTextLength> columns;
   for (const int width : widths) columns += QTextLength(QTextLength::PercentageLength, width);

@@ -23,11 +23,11 @@ InfoWindow::InfoWindow(const Perform& perform, QWidget* parent)
   item_ = MakeValue(QStringLiteral("lblItem"), this);
   item_->setTextFormat(Qt::PlainText);
   item_->setWordWrap(true);
-  figures_ = MakeList({QStringLiteral("lstFigures"), "Figures of the item",
-                       "Every figure that the character file gives"},
-                      {ListColumn{"Figure", kNameColumn}, ListColumn{"Value"}}, this);
+  figures_ = MakeList(
+      {QStringLiteral("lstFigures"), "Details of the item", "All details in the character file"},
+      {ListColumn{"Detail", kNameColumn}, ListColumn{"Value"}}, this);
   reference_ = MakeEntryText(QStringLiteral("txtReference"), this);
-  reference_->setPlaceholderText("The reference file says nothing about it.");
+  reference_->setPlaceholderText("No reference entry.");
   auto* column = new QVBoxLayout(this);
   SetEdges(*column);
   column->addWidget(item_);

@@ -59,7 +59,7 @@ GmWindow::GmWindow(const Perform& perform, QWidget* parent)
                  "&Add Note", this);
   add->setDefault(true);
   auto* log = MakeButton({QStringLiteral("cmdViewLog"), "View the log file",
-                          "Show what the log file holds of this and earlier evenings"},
+                          "Show the log of this and earlier sessions"},
                          "&View Log", this);
   auto* shut = MakeButton(
       {QStringLiteral("cmdClose"), "Close the window", TipWithKey("Close the window", "Esc")},

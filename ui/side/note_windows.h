@@ -9,7 +9,7 @@ class QTreeWidget;
 
 namespace ng {
 
-/// A read-only text of the reference file, named as told.
+/// A read-only text of the reference file, with this object name.
 QPlainTextEdit* MakeEntryText(const QString& name, QWidget* parent);
 /// Shows an entry, its fields below one another.
 void ShowEntry(QPlainTextEdit& widget, const std::string& entry);

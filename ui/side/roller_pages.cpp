@@ -23,7 +23,7 @@ constexpr int kModifierBoxWidth = 48;
 constexpr int kListWidth = 178;
 constexpr int kPlainRowHeight = 20;
 
-/// Sets a box back to zero: the right click, Shift+click or Del on what stands beside the box.
+/// Sets a box back to zero: the right click, Shift+click or Del on what is beside the box.
 class ClearClick : public QObject {
  public:
   ClearClick(QWidget* caption, std::function<void()> clear)
@@ -147,7 +147,7 @@ class PageBuilder {
   QVBoxLayout* rows_;
 };
 
-/// The modifiers that the combatant brings along stand above the lists, the situation's below.
+/// The modifiers that come from the combatant are above the lists, the situation's below.
 bool BroughtAlong(const Caption& caption) { return caption.steps.empty(); }
 
 void AddCaptions(PageBuilder& builder, TestPage page, bool (*wanted)(const Caption&)) {
@@ -168,7 +168,7 @@ void AddSituation(PageBuilder& builder, TestPage page) {
 void AddVisibility(PageBuilder& builder, const QString& name, int box) {
   builder.AddList("Visibility",
                   {name, "Visibility",
-                   "Light and smoke; the combatant's eyes decide on the modifier "
+                   "Light and smoke; the modifier depends on the combatant's eyes "
                    "(Up and Down)"},
                   box);
 }

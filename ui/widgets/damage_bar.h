@@ -6,7 +6,7 @@
 
 namespace ng {
 
-/// The ten boxes of a damage track, filled from the left. The letters L, M, S and D stand in the
+/// The ten boxes of a damage track, filled from the left. The letters L, M, S and D are in the
 /// boxes at which a wound level begins, so that the level can be read without the colour.
 class DamageBar : public QWidget {
   Q_OBJECT
@@ -15,7 +15,7 @@ class DamageBar : public QWidget {
   explicit DamageBar(Track track, QWidget* parent = nullptr);
 
   int boxes() const { return boxes_; }
-  /// Filled boxes, 0 to 10; what lies outside counts as the nearer end.
+  /// Filled boxes, 0 to 10; a number outside counts as the nearer end.
   void setBoxes(int boxes);
 
   QSize minimumSizeHint() const override;

@@ -62,7 +62,7 @@ DirectoryPicker::DirectoryPicker(const QString& drivesName, const QString& treeN
     emit DirectoryChosen(model_->filePath(Marked()));
   });
   connect(tree_, &QTreeView::expanded, this, [this] { follow_ = follow_ && painting_; });
-  // Directories are read in the background, and sorting what came in moves the marked one.
+  // Directories are read in the background, and sorting what came in moves the selected one.
   connect(model_, &QFileSystemModel::layoutChanged, this, &DirectoryPicker::Follow,
           Qt::QueuedConnection);
 }
@@ -97,7 +97,7 @@ void DirectoryPicker::BuildTree() {
 }
 
 bool DirectoryPicker::eventFilter(QObject* watched, QEvent* event) {
-  // A deep tree scrolls sideways, and the mark of a short name still goes through the whole row.
+  // A deep tree scrolls sideways, and the selection of a short name still covers the whole row.
   if (event->type() == QEvent::Resize) {
     tree_->header()->setMinimumSectionSize(tree_->viewport()->width());
   }

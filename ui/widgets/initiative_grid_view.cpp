@@ -25,7 +25,7 @@ constexpr std::array<int, InitiativeGrid::kColumns> kLeastWidths = {0, 56, 52};
 constexpr std::array<const char*, InitiativeGrid::kColumns> kCellActs = {"GridX_Name", "GridX_Roll",
                                                                          "GridX_PM"};
 
-/// Between rows whose colours never change, the lines never change either.
+/// The colours of the rows never change, and neither do the lines between them.
 constexpr QColor kGridLine(0xB6, 0xBC, 0xC6);
 
 /// Paints a cell without the style's mark of the current cell, which would tint the row's colour.

@@ -9,16 +9,16 @@ class QTreeWidget;
 
 namespace ng {
 
-/// Fills a list anew. Columns are separated by tabs; the last column of the list takes what is left
-/// of a line, with two blanks for a tab. A column is aligned as its header is. Nothing is marked or
-/// selected afterwards.
+/// Fills a list again. Columns are separated by tabs; the last column of the list takes what is
+/// left of a line, with two blanks for a tab. A column is aligned as its header is. Nothing is
+/// checked or selected afterwards.
 void ShowLines(QTreeWidget& tree, const std::vector<std::string>& lines);
 
 /// Sets the check marks of a list that was filled from the same lines; selection and scroll
 /// position stay.
 void ShowMarks(QTreeWidget& tree, const std::vector<CarriedLine>& lines);
 
-/// Marks one line, none for -1.
+/// Selects one line, none for -1.
 void ShowSelection(QTreeWidget& tree, int line);
 
 }  // namespace ng

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "app/commands.h"
+#include "ui/widgets/note_edit.h"
 #include "ui/wiring/code_page_input.h"
 #include "ui/wiring/text.h"
 
@@ -62,7 +63,10 @@ class Connector {
   void ConnectText(QPlainTextEdit& edit) const {
     const WidgetName name = CommandOf(edit);
     if (name.control.empty()) return;
-    KeepToCodePage(edit, perform_);
+    if (auto* note = qobject_cast<NoteEdit*>(&edit)) {
+      QObject::connect(note, &NoteEdit::LeftOut, &owner_,
+                       [perform = perform_] { perform({kLeftOutAct}); });
+    }
     QObject::connect(&edit, &QPlainTextEdit::textChanged, &owner_,
                      [name, &edit, &painting = painting_, perform = perform_] {
                        if (painting) return;

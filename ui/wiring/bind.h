@@ -20,7 +20,7 @@ namespace ng {
 /// "2" behind the name. A control without a widget is passed over.
 class Binder : public QObject, private ControlVisitor {
  public:
-  /// The window must hold all its widgets already. `prefix` stands before the widgets' names in the
+  /// The window must hold all its widgets already. `prefix` is put before the widgets' names in the
   /// acts.
   Binder(QWidget& window, const Perform& perform, std::string prefix = {});
 

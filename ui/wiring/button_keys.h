@@ -12,7 +12,7 @@ class QWidget;
 namespace ng {
 
 /// Gives the buttons that are pressed all through a fight their keys: wounds, shots, reloading, the
-/// combat pool. The keys work whatever page is open, and stand in the buttons' tips.
+/// combat pool. The keys work whatever page is open, and are named in the buttons' tips.
 void AddButtonKeys(QMainWindow& window);
 
 /// A key that presses a button while its box has the focus.
