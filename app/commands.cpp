@@ -23,18 +23,6 @@ void Main(Session& session, const Act&) {
   (session.main.*function)();
 }
 
-/// An edit of a single text box of a panel.
-template <auto panel, auto box>
-void Edit(Session& session, const Act& act) {
-  session.main.Box_Change(session.main.*panel.*box, act.text);
-}
-
-/// An edit of a text box that stands once for each weapon.
-template <PerWeapon<std::string> WeaponPanel::*box>
-void EditWeapon(Session& session, const Act& act) {
-  session.main.WeaponBox_Change((session.main.weapons.*box)[Element(act)], act.text);
-}
-
 Weapon WeaponOf(const Act& act) { return Element(act) == 0 ? Weapon::Primary : Weapon::Secondary; }
 
 template <Sight sight>
@@ -120,6 +108,18 @@ void OpenTestPage(Session& session, const Act& act) {
   session.main.ngdr.tabTest_Click(static_cast<TestPage>(act.index));
 }
 
+using CommandMap = std::map<std::string, const Command*, std::less<>>;
+
+/// Lets every control of a panel that is bound to a field be edited.
+template <class Panel>
+void AddBound(CommandMap& map) {
+  static constexpr Command kEdit{"Bound_Change",
+                                 [](Session& s, const Act& a) { s.main.Bound_Change(a); }};
+  for (const BoundControl<Panel>& control : Panel::Bound()) {
+    if (control.edit != nullptr) map.emplace(control.name, &kEdit);
+  }
+}
+
 const auto kCommands = std::to_array<Command>({
     {"mnuFileNew", Main<&MainForm::mnuFileNew>, Menu::File, 0, "&New", "Ctrl+Shift+N",
      "Remove the combatants and begin with an empty table", "New", "New"},
@@ -201,15 +201,9 @@ const auto kCommands = std::to_array<Command>({
     {"cmdIncrease", Wound<1>},
     {"cmdReduce", Wound<-1>},
     {"cmdDamZero", [](Session& s, const Act& a) { s.main.cmdDamZero(TrackOf(a)); }},
-    {"txtPainResistance", Edit<&MainForm::damage, &DamagePanel::txtPainResistance>},
-    {"txtShots", EditWeapon<&WeaponPanel::txtShots>},
-    {"txtTBTT", EditWeapon<&WeaponPanel::txtTBTT>},
-    {"txtRC", EditWeapon<&WeaponPanel::txtRC>},
-    {"txtGyro", EditWeapon<&WeaponPanel::txtGyro>},
     {"chkSmL", ClickSight<Sight::Smartlink>},
     {"chkLaserSight", ClickSight<Sight::Laser>},
     {"chkSmtGoggles", ClickSight<Sight::Goggles>},
-    {"chkTwoGuns", Main<&MainForm::chkTwoGuns_Click>},
     {"optRangeSel", ChooseRange},
     {"cmdShots1", Fire<1>},
     {"cmdShots3", Fire<3>},
@@ -236,11 +230,6 @@ const auto kCommands = std::to_array<Command>({
     {"lstAugments_Select", Mark<SheetList::Augments>},
     {"lstContacts_Select", Mark<SheetList::Contacts>},
     {"lstRace_Select", Mark<SheetList::Race>},
-    {"txtCP", Edit<&MainForm::pools, &PoolPanel::txtCP>},
-    {"txtSP", Edit<&MainForm::pools, &PoolPanel::txtSP>},
-    {"txtSD", Edit<&MainForm::pools, &PoolPanel::txtSD>},
-    {"txtAS", Edit<&MainForm::pools, &PoolPanel::txtAS>},
-    {"txtKP", Edit<&MainForm::pools, &PoolPanel::txtKP>},
 
     {"cmdCPplus", [](Session& s, const Act&) { s.main.ChangeCombatPool(IncPool); }},
     {"cmdCPnegative", [](Session& s, const Act&) { s.main.ChangeCombatPool(DecPool); }},
@@ -331,8 +320,11 @@ std::span<const char* const> ToolbarKeys() { return kToolbarKeys; }
 
 const Command* FindCommand(std::string_view name) {
   static const auto byName = [] {
-    std::map<std::string, const Command*, std::less<>> map;
+    CommandMap map;
     for (const Command& command : kCommands) map.emplace(command.name, &command);
+    AddBound<DamagePanel>(map);
+    AddBound<WeaponPanel>(map);
+    AddBound<PoolPanel>(map);
     static constexpr Command kCaption{"ngdr.Caption", ClickCaption};
     for (const Caption& caption : Captions()) {
       map.emplace(std::string(kRollerPrefix) + caption.control, &kCaption);

@@ -35,12 +35,10 @@ void DamagePanel::Show(const PlayerRecord& record) {
   lblPhysical = LevelOf(Track::Physical, record.CurDamPhysical).name;
   lblStun = LevelOf(Track::Stun, record.CurDamStun).name;
   lblDamMod = "DamMod:+" + PlainText(record.TNDamMod);
-  txtPainResistance = PlainText(record.PainResistance);
+  ShowBound(*this, record);
 }
 
-void DamagePanel::Sync(PlayerRecord& record) const {
-  record.PainResistance = LenientInteger(txtPainResistance);
-}
+void DamagePanel::Sync(PlayerRecord& record) const { StoreBound(*this, record); }
 
 namespace {
 
