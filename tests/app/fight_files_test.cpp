@@ -240,9 +240,12 @@ TEST_F(FightFilesTest, TheReferenceWindowFindsEntries) {
   EXPECT_EQ(program.main.reference.lstNames.size(), 3U);
   program.Do("frmReference.txtFilter", 0, "PO");
   EXPECT_EQ(program.main.reference.lstNames.size(), 1U);
-  EXPECT_TRUE(program.main.reference.ShowEntry("pistols"));
-  EXPECT_EQ(program.main.reference.txtEntry, "short arms|loud");
-  EXPECT_FALSE(program.main.reference.ShowEntry("Clubs"));
+  EXPECT_EQ(program.main.reference.txtEntry, "long\r\n");  // the first one listed
+  program.Do("frmReference.txtFilter", 0, "");
+  program.Do("frmReference.lstNames_Select", 2);
+  EXPECT_EQ(program.main.reference.txtEntry, "quiet");
+  program.Do("frmReference.txtFilter", 0, "Clubs");
+  EXPECT_EQ(program.main.reference.txtEntry, "");
 }
 
 }  // namespace
