@@ -1,6 +1,7 @@
 #include "app/commands.h"
 
 #include <array>
+#include <deque>
 #include <map>
 #include <string>
 
@@ -21,18 +22,6 @@ using Run = void (*)(Session&, const Act&);
 template <void (MainForm::*function)()>
 void Main(Session& session, const Act&) {
   (session.main.*function)();
-}
-
-/// An edit of a single text box of a panel.
-template <auto panel, auto box>
-void Edit(Session& session, const Act& act) {
-  session.main.Box_Change(session.main.*panel.*box, act.text);
-}
-
-/// An edit of a text box that there is for each weapon.
-template <PerWeapon<std::string> WeaponPanel::*box>
-void EditWeapon(Session& session, const Act& act) {
-  session.main.WeaponBox_Change((session.main.weapons.*box)[Element(act)], act.text);
 }
 
 Weapon WeaponOf(const Act& act) { return Element(act) == 0 ? Weapon::Primary : Weapon::Secondary; }
@@ -153,6 +142,21 @@ constexpr Command Typing(const char* words, Command command) {
   return command;
 }
 
+using CommandMap = std::map<std::string, const Command*, std::less<>>;
+
+/// Lets every control of a panel that is bound to a field be edited.
+template <class Panel>
+void AddBound(CommandMap& map, std::deque<Command>& commands) {
+  for (const BoundControl<Panel>& control : Panel::Bound()) {
+    if (control.edit == nullptr) continue;
+    const Command edit = {control.name, [](Session& s, const Act& a) { s.main.Bound_Change(a); }};
+    // A check box is clicked and not typed into.
+    const bool check = std::string_view(control.name).starts_with("chk");
+    commands.push_back(check ? Step(control.words, edit) : Typing(control.words, edit));
+    map.emplace(control.name, &commands.back());
+  }
+}
+
 const auto kCommands = std::to_array<Command>({
     {"mnuFileNew", Main<&MainForm::mnuFileNew>, Menu::File, 0, "&New", "Ctrl+Shift+N",
      "Remove the combatants and begin with an empty table", "New", "New"},
@@ -250,16 +254,9 @@ const auto kCommands = std::to_array<Command>({
     Step("{track} one box less", {"cmdReduce", Wound<-1>}),
     Step("{track} track cleared",
          {"cmdDamZero", [](Session& s, const Act& a) { s.main.cmdDamZero(TrackOf(a)); }}),
-    Typing("pain resistance",
-           {"txtPainResistance", Edit<&MainForm::damage, &DamagePanel::txtPainResistance>}),
-    Typing("{hand} rounds fired", {"txtShots", EditWeapon<&WeaponPanel::txtShots>}),
-    Typing("{hand} rounds this turn", {"txtTBTT", EditWeapon<&WeaponPanel::txtTBTT>}),
-    Typing("{hand} recoil compensation", {"txtRC", EditWeapon<&WeaponPanel::txtRC>}),
-    Typing("{hand} gyro compensation", {"txtGyro", EditWeapon<&WeaponPanel::txtGyro>}),
     Step("{hand} smartlink", {"chkSmL", ClickSight<Sight::Smartlink>}),
     Step("{hand} laser sight", {"chkLaserSight", ClickSight<Sight::Laser>}),
     Step("{hand} smart goggles", {"chkSmtGoggles", ClickSight<Sight::Goggles>}),
-    Step("two guns", {"chkTwoGuns", Main<&MainForm::chkTwoGuns_Click>}),
     Step("range", {"optRangeSel", ChooseRange}),
     Step("{hand} weapon, 1 round", {"cmdShots1", Fire<1>}),
     Step("{hand} weapon, 3 rounds", {"cmdShots3", Fire<3>}),
@@ -292,11 +289,6 @@ const auto kCommands = std::to_array<Command>({
     Looking({"lstAugments_Select", Mark<SheetList::Augments>}),
     Looking({"lstContacts_Select", Mark<SheetList::Contacts>}),
     Looking({"lstRace_Select", Mark<SheetList::Race>}),
-    Typing("combat pool", {"txtCP", Edit<&MainForm::pools, &PoolPanel::txtCP>}),
-    Typing("spell pool", {"txtSP", Edit<&MainForm::pools, &PoolPanel::txtSP>}),
-    Typing("dice set aside", {"txtSD", Edit<&MainForm::pools, &PoolPanel::txtSD>}),
-    Typing("astral pool", {"txtAS", Edit<&MainForm::pools, &PoolPanel::txtAS>}),
-    Typing("karma pool", {"txtKP", Edit<&MainForm::pools, &PoolPanel::txtKP>}),
 
     Step("combat pool, a die more",
          {"cmdCPplus", [](Session& s, const Act&) { s.main.ChangeCombatPool(IncPool); }}),
@@ -404,8 +396,12 @@ std::span<const char* const> ToolbarKeys() { return kToolbarKeys; }
 
 const Command* FindCommand(std::string_view name) {
   static const auto byName = [] {
-    std::map<std::string, const Command*, std::less<>> map;
+    CommandMap map;
+    static std::deque<Command> bound;
     for (const Command& command : kCommands) map.emplace(command.name, &command);
+    AddBound<DamagePanel>(map, bound);
+    AddBound<WeaponPanel>(map, bound);
+    AddBound<PoolPanel>(map, bound);
     static constexpr Command kCaption = Step("test modifier", {"ngdr.Caption", ClickCaption});
     for (const Caption& caption : Captions()) {
       map.emplace(std::string(kRollerPrefix) + caption.control, &kCaption);

@@ -1,5 +1,7 @@
 #include "app/controls.h"
 
+#include <algorithm>
+
 #include "app/main_form.h"
 #include "base/number_text.h"
 #include "base/text.h"
@@ -13,9 +15,20 @@ void VisitTexts(ControlVisitor& visitor, const char* name, const Texts& texts) {
   for (const std::string& text : texts) visitor.Text({name, index++}, text);
 }
 
-void VisitChecks(ControlVisitor& visitor, const char* name, const PerWeapon<bool>& checks) {
-  int index = 0;
-  for (const bool checked : checks) visitor.Check({name, index++}, checked);
+/// The controls of a panel that are bound to fields.
+template <class Panel>
+void VisitBound(ControlVisitor& visitor, const Panel& panel) {
+  for (const BoundControl<Panel>& control : Panel::Bound()) {
+    for (int element = 0; element < std::max(control.elements, 1); ++element) {
+      const ControlName name{control.name, control.elements > 0 ? element : ControlName::kSingle};
+      const BoundValue value = control.shown(panel, static_cast<std::size_t>(element));
+      if (const bool* checked = std::get_if<bool>(&value)) {
+        visitor.Check(name, *checked);
+      } else {
+        visitor.Text(name, *std::get<const std::string*>(value));
+      }
+    }
+  }
 }
 
 void VisitHeader(const MainForm& form, ControlVisitor& visitor) {
@@ -44,7 +57,7 @@ void VisitCombatPage(const MainForm& form, ControlVisitor& visitor) {
   visitor.Text({"lblStun"}, damage.lblStun);
   visitor.Text({"lblOverDamage"}, damage.lblOverDamage);
   visitor.Text({"lblDamMod"}, damage.lblDamMod);
-  visitor.Text({"txtPainResistance"}, damage.txtPainResistance);
+  VisitBound(visitor, damage);
 
   const WeaponPanel& weapons = form.weapons;
   visitor.Text({"lblPrimary"}, weapons.lblPrimary);
@@ -56,15 +69,7 @@ void VisitCombatPage(const MainForm& form, ControlVisitor& visitor) {
   VisitTexts(visitor, "lblSRng", weapons.lblSRng);
   visitor.Choice({"optRangeSel", 0}, weapons.optRangeSel[0]);
   visitor.Choice({"optRangeSel", 1}, weapons.optRangeSel[1]);
-  VisitTexts(visitor, "txtShots", weapons.txtShots);
-  VisitTexts(visitor, "txtTBTT", weapons.txtTBTT);
-  VisitTexts(visitor, "txtRC", weapons.txtRC);
-  VisitTexts(visitor, "txtGyro", weapons.txtGyro);
-  VisitTexts(visitor, "txtURC", weapons.txtURC);
-  VisitChecks(visitor, "chkSmL", weapons.chkSmL);
-  VisitChecks(visitor, "chkLaserSight", weapons.chkLaserSight);
-  VisitChecks(visitor, "chkSmtGoggles", weapons.chkSmtGoggles);
-  visitor.Check({"chkTwoGuns"}, weapons.chkTwoGuns);
+  VisitBound(visitor, weapons);
   visitor.Text({"lblWPrim"}, weapons.lblWPrim);
   visitor.Text({"lblWSec"}, weapons.lblWSec);
   visitor.Text({"lblTNMod"}, weapons.lblTNMod);
@@ -86,12 +91,7 @@ void VisitSkillsAndPools(const MainForm& form, ControlVisitor& visitor) {
   VisitSkill(visitor, "lblSkillSecondary", "lblSkillSecondaryLevel", record.SkillSecondaryName,
              record.SkillSecondaryValue);
 
-  const PoolPanel& pools = form.pools;
-  visitor.Text({"txtCP"}, pools.txtCP);
-  visitor.Text({"txtSP"}, pools.txtSP);
-  visitor.Text({"txtSD"}, pools.txtSD);
-  visitor.Text({"txtAS"}, pools.txtAS);
-  visitor.Text({"txtKP"}, pools.txtKP);
+  VisitBound(visitor, form.pools);
   visitor.List({"lstActive"}, form.sheet.lstActive);
   visitor.Text({"lblSkill"}, form.skillTests.lblSkill);
 }

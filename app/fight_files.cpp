@@ -181,8 +181,8 @@ bool FightFiles::SaveState() {
   form_.statusMessage = "Fight saved";
   const std::string leftOut = Joined(NamesLeftOut(form_.fight));
   if (!leftOut.empty()) {
-    form_.statusMessage += ". Not saved (beyond slot " + PlainText(form_.fight.NumPlayers) +
-                           "): " + leftOut;
+    form_.statusMessage +=
+        ". Not saved (beyond slot " + PlainText(form_.fight.NumPlayers) + "): " + leftOut;
   }
   // The file names the note files and holds no notes.
   const std::string unfiled = Joined(NamesWithUnfiledNotes(form_.fight));
@@ -226,7 +226,9 @@ bool FightFiles::LoadState(const std::string& path) {
   return true;
 }
 
-bool FightFiles::Changed() const { return WithoutLooks(form_.fight) != WithoutLooks(onDisk_.fight); }
+bool FightFiles::Changed() const {
+  return WithoutLooks(form_.fight) != WithoutLooks(onDisk_.fight);
+}
 
 void FightFiles::NameNoteFile(const std::string& path) {
   form_.txtNoteFileName = path;

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "app/act.h"
 #include "app/fight_files.h"
 #include "app/help_form.h"
 #include "app/info_form.h"
@@ -173,8 +174,9 @@ class MainForm : private SequencerHost, private DiceRoller::Weapons {
   void txtRRSLT_Change(const std::string& text);
   void txtInit_Change(int index, const std::string& text);
   void txtReac_Change(int index, const std::string& text);
-  /// A box of the combat page was edited: takes the text over into the record at once.
-  void Box_Change(std::string& box, const std::string& text);
+  /// A control that is bound to a field was edited: takes it over into the record at once.
+  /// Subscript out of range for an element that a control array does not have.
+  void Bound_Change(const Act& act);
   /// Wounds of the damage panel: boxes added, or taken away when negative.
   void Damage(Track track, Integer boxes);
   void cmdDamZero(Track track);
@@ -187,9 +189,6 @@ class MainForm : private SequencerHost, private DiceRoller::Weapons {
   /// Takes over the combat pool that a test left.
   void CP(Integer value);
   void optRangeSel(Weapon weapon, int range);
-  /// A box that recoil hangs on was edited.
-  void WeaponBox_Change(std::string& box, const std::string& text);
-  void chkTwoGuns_Click();
   void Sight_Click(Weapon weapon, Sight sight);
   /// Fires a weapon; says in the status bar when the range does not count for want of a skill.
   void Fire(Weapon weapon, int rounds);
@@ -247,6 +246,8 @@ class MainForm : private SequencerHost, private DiceRoller::Weapons {
   void Take(Table& table, Loaded<Table> loaded);
   /// Shows what an action may have changed of the displayed combatant.
   void ShowHeader() { header.Show(fight.Players[fight.CurrentPCpointer]); }
+  template <class Panel>
+  bool EditBound(Panel& panel, const Act& act);
   void UpdateWeapons();
   /// Takes over the combat pool that a test left of a combatant.
   void SpendPool(Slot slot, Integer left);

@@ -1,6 +1,8 @@
 // What the game master does with the displayed combatant: the edits, buttons and lists of the
 // pages.
 
+#include <algorithm>
+
 #include "app/main_form.h"
 #include "base/number_text.h"
 
@@ -30,25 +32,24 @@ void MainForm::txtReac_Change(int index, const std::string& text) {
   (index == 0 ? Displayed().CurReactNatural : Displayed().CurReactAugmented) = LenientInteger(text);
 }
 
-void MainForm::Box_Change(std::string& box, const std::string& text) {
-  if (!Displaying()) return;
-  // A number beyond the range ends here and leaves the box as it was.
-  LenientInteger(text);
-  box = text;
-  SyncSheet();
+/// Returns false for an act on no control that the panel lets edit, or with nobody displayed.
+template <class Panel>
+bool MainForm::EditBound(Panel& panel, const Act& act) {
+  const auto rows = Panel::Bound();
+  const auto row = std::ranges::find(rows, act.control, &BoundControl<Panel>::name);
+  if (row == rows.end() || row->edit == nullptr) return false;
+  if (row->elements > 0 && (act.index < 0 || act.index >= row->elements)) ThrowSubscript();
+  if (!Displaying()) return false;
+  row->edit(panel, static_cast<std::size_t>(act.index), act.text);
+  return true;
 }
 
-void MainForm::WeaponBox_Change(std::string& box, const std::string& text) {
-  if (!Displaying()) return;
-  LenientInteger(text);
-  box = text;
-  UpdateWeapons();
-}
-
-void MainForm::chkTwoGuns_Click() {
-  if (!Displaying()) return;
-  weapons.chkTwoGuns = !weapons.chkTwoGuns;
-  UpdateWeapons();
+void MainForm::Bound_Change(const Act& act) {
+  if (EditBound(damage, act) || EditBound(pools, act)) {
+    SyncSheet();
+  } else if (EditBound(weapons, act)) {
+    UpdateWeapons();
+  }
 }
 
 void MainForm::Sight_Click(Weapon weapon, Sight sight) {

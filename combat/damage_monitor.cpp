@@ -7,7 +7,7 @@ namespace ng {
 void DamagePanel::Show(const PlayerRecord& record) {
   ShowTracks(record);
   ShowModifier(record);
-  txtPainResistance = PlainText(record.PainResistance);
+  ShowBound(*this, record);
 }
 
 void DamagePanel::ShowTracks(const PlayerRecord& record) {
@@ -23,9 +23,7 @@ void DamagePanel::ShowModifier(const PlayerRecord& record) {
   lblDamMod = "DamMod:+" + PlainText(record.TNDamMod);
 }
 
-void DamagePanel::Sync(PlayerRecord& record) const {
-  record.PainResistance = LenientInteger(txtPainResistance);
-}
+void DamagePanel::Sync(PlayerRecord& record) const { StoreBound(*this, record); }
 
 void DamageMonitor::ApplyDamage(Track track, Integer& amount) {
   if (fight_.CurrentPCpointer == 0) return;

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <array>
+#include <span>
 #include <string>
 
 #include "base/integer.h"
+#include "combat/bound_control.h"
 #include "combat/wounds.h"
 #include "tracker/fight/fight.h"
 #include "tracker/fight/player_record.h"
@@ -22,6 +24,13 @@ struct DamagePanel {
   std::string lblStun;
   std::string lblDamMod;
   std::string txtPainResistance;
+
+  static std::span<const BoundControl<DamagePanel>> Bound() {
+    static constexpr auto rows =
+        std::to_array({Bind<&DamagePanel::txtPainResistance, &PlayerRecord::PainResistance>(
+            "txtPainResistance", "pain resistance")});
+    return rows;
+  }
 
   /// Fills every control from a record.
   void Show(const PlayerRecord& record);

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <array>
+#include <span>
 #include <string>
 
 #include "base/integer.h"
+#include "combat/bound_control.h"
 #include "tracker/fight/player_record.h"
 
 namespace ng {
@@ -80,6 +82,8 @@ struct WeaponPanel {
   std::string lblWPrim;
   std::string lblWSec;
   std::string lblTNMod;
+
+  static std::span<const BoundControl<WeaponPanel>> Bound();
 
   /// Fills every control from a record.
   void Show(const PlayerRecord& record);

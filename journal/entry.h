@@ -24,7 +24,7 @@ struct Outcome {
   enum class Kind {
     /// A file was read; `text` is the digest of its content.
     Content,
-    /// A directory was listed.
+    /// A directory was listed; `number` files in it cannot be named.
     Names,
     /// A file was written.
     Done,

@@ -54,6 +54,7 @@ void AppendOutcome(std::string& lines, const Outcome& outcome) {
       lines.append(" ").append(outcome.text);
       break;
     case Outcome::Kind::Names:
+      lines.append(" ").append(std::to_string(outcome.number));
       for (const std::string& name : outcome.names) AppendText(lines, name);
       break;
     case Outcome::Kind::Error:
@@ -76,6 +77,7 @@ Outcome ReadOutcome(Outcome::Kind kind, WordReader& words) {
       outcome.text = words.Word();
       break;
     case Outcome::Kind::Names:
+      outcome.number = words.Number();
       while (!words.AtEnd()) outcome.names.push_back(words.Text());
       break;
     case Outcome::Kind::Error:

@@ -128,12 +128,15 @@ void Tape::Append(const std::string& path, std::string_view bytes) {
   Written([&] { real_->files.Append(path, bytes); });
 }
 
-std::vector<std::string> Tape::List(const std::string& directory, std::string_view ending) {
-  if (!Live()) return Take(Outcome::Kind::Names).names;
+FileList Tape::List(const std::string& directory, std::string_view ending) {
+  if (!Live()) {
+    const Outcome& outcome = Take(Outcome::Kind::Names);
+    return {outcome.names, outcome.number};
+  }
   return Noted([&] {
-    std::vector<std::string> names = real_->files.List(directory, ending);
-    Note(Outcome{Outcome::Kind::Names, {}, names, 0});
-    return names;
+    FileList list = real_->files.List(directory, ending);
+    Note(Outcome{Outcome::Kind::Names, {}, list.names, list.unlisted});
+    return list;
   });
 }
 

@@ -58,7 +58,7 @@ class Tape : public Files, public Prompts, public UserSettings {
   std::string ReadWhole(const std::string& path) override;
   void Replace(const std::string& path, std::string_view bytes) override;
   void Append(const std::string& path, std::string_view bytes) override;
-  std::vector<std::string> List(const std::string& directory, std::string_view ending) override;
+  FileList List(const std::string& directory, std::string_view ending) override;
 
   // Prompts.
   void Message(std::string_view text) override;

@@ -163,7 +163,7 @@ TEST_F(FightFilesTest, WithoutItsCharacterFilesAFightKeepsItsPools) {
   // Ash::1 is of the same file.
   EXPECT_EQ(later.main.statusMessage, "Restored without the character files of: Ash");
   later.Do("mnuTReset");
-  const auto pools = [&](int slot) {
+  const auto pools = [&](Slot slot) {
     const PlayerRecord& r = later.fight.Players[slot];
     return r.Name + " " + PlainText(r.CP) + PlainText(r.SP) + PlainText(r.SD) + PlainText(r.AS);
   };
@@ -306,9 +306,12 @@ TEST_F(FightFilesTest, TheReferenceWindowFindsEntries) {
   EXPECT_EQ(program.main.reference.lstNames.size(), 3U);
   program.Do("frmReference.txtFilter", 0, "PO");
   EXPECT_EQ(program.main.reference.lstNames.size(), 1U);
-  EXPECT_TRUE(program.main.reference.ShowEntry("pistols"));
-  EXPECT_EQ(program.main.reference.txtEntry, "short arms|loud");
-  EXPECT_FALSE(program.main.reference.ShowEntry("Clubs"));
+  EXPECT_EQ(program.main.reference.txtEntry, "long\r\n");  // the first one listed
+  program.Do("frmReference.txtFilter", 0, "");
+  program.Do("frmReference.lstNames_Select", 2);
+  EXPECT_EQ(program.main.reference.txtEntry, "quiet");
+  program.Do("frmReference.txtFilter", 0, "Clubs");
+  EXPECT_EQ(program.main.reference.txtEntry, "");
 }
 
 }  // namespace

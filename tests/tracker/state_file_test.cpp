@@ -205,7 +205,7 @@ TEST(StateFile, AnErrorNamesItsPlaceAndLeavesWhatWasRead) {
   FakeHost host(fight);
   host.noteMissing = true;
   EXPECT_EQ(Load(GoldenFile(), fight, host), "File not found\r\nNoteFileName, slot 1");
-  EXPECT_EQ(fight.Players[1].KP.Value(), 185);
+  EXPECT_EQ(fight.Players[1].KP, FilledRecord(1).KP);
 }
 
 TEST(StateFile, MoreThanAHundredSlotsEndAtTheTable) {
@@ -215,7 +215,7 @@ TEST(StateFile, MoreThanAHundredSlotsEndAtTheTable) {
   Fight restored;
   FakeHost host(restored);
   EXPECT_EQ(Load(text, restored, host), "Subscript out of range\r\nFilename, slot 101");
-  EXPECT_EQ(restored.Players[100].KP.Value(), 10085);
+  EXPECT_EQ(restored.Players[100].KP, FilledRecord(100).KP);
 }
 
 TEST(StateFile, HandWrittenFilesAreReadLeniently) {

@@ -40,7 +40,7 @@ struct Fight {
   Integer NumPlayers;
   /// Imported character sheets.
   Integer InfoCnt;
-  /// Saved and restored only.
+  /// Kept in saved fights only.
   Integer InitPhase;
   /// The number of the combat turn.
   Integer RoundCount;
@@ -52,6 +52,7 @@ struct Fight {
   Integer PhaseCnt;
   /// Steps since the reset, 0 to 100; indexes `TurnHistory`.
   Integer SeqNum;
+  /// The last step of the history that a saved fight keeps; the reset sets it to 0.
   Integer TurnNum;
   /// The order position that has the turn.
   OrderPosition LTurn;

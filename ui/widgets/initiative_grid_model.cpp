@@ -19,7 +19,7 @@ QVariant AlignmentOf(int column) {
 
 /// What is read aloud: the name says in words what its colour says.
 QString SpokenName(const InitiativeGrid::Row& row) {
-  const QString name = ToQString(row.text[InitiativeGrid::kNameColumn]);
+  QString name = ToQString(row.text[InitiativeGrid::kNameColumn]);
   const RowColour colour = row.colour[InitiativeGrid::kNameColumn];
   if (colour == RowColour::White) return name;
   return name + QStringLiteral(", ") + ToQString(LookOf(colour).badge);
