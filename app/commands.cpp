@@ -3,6 +3,7 @@
 #include <array>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "base/runtime_error.h"
 
@@ -108,15 +109,13 @@ void OpenTestPage(Session& session, const Act& act) {
   session.main.ngdr.tabTest_Click(static_cast<TestPage>(act.index));
 }
 
-using CommandMap = std::map<std::string, const Command*, std::less<>>;
+void ChangeBound(Session& session, const Act& act) { session.main.Bound_Change(act); }
 
-/// Lets every control of a panel that is bound to a field be edited.
+/// The edits of a panel's controls that are bound to fields.
 template <class Panel>
-void AddBound(CommandMap& map) {
-  static constexpr Command kEdit{"Bound_Change",
-                                 [](Session& s, const Act& a) { s.main.Bound_Change(a); }};
+void AddBound(std::vector<Command>& commands) {
   for (const BoundControl<Panel>& control : Panel::Bound()) {
-    if (control.edit != nullptr) map.emplace(control.name, &kEdit);
+    if (control.edit != nullptr) commands.push_back({control.name, ChangeBound});
   }
 }
 
@@ -314,17 +313,23 @@ constexpr auto kToolbarKeys = std::to_array<const char*>(
 
 }  // namespace
 
-std::span<const Command> Commands() { return kCommands; }
+std::span<const Command> Commands() {
+  static const std::vector<Command> all = [] {
+    std::vector<Command> commands(kCommands.begin(), kCommands.end());
+    AddBound<DamagePanel>(commands);
+    AddBound<WeaponPanel>(commands);
+    AddBound<PoolPanel>(commands);
+    return commands;
+  }();
+  return all;
+}
 
 std::span<const char* const> ToolbarKeys() { return kToolbarKeys; }
 
 const Command* FindCommand(std::string_view name) {
   static const auto byName = [] {
-    CommandMap map;
-    for (const Command& command : kCommands) map.emplace(command.name, &command);
-    AddBound<DamagePanel>(map);
-    AddBound<WeaponPanel>(map);
-    AddBound<PoolPanel>(map);
+    std::map<std::string, const Command*, std::less<>> map;
+    for (const Command& command : Commands()) map.emplace(command.name, &command);
     static constexpr Command kCaption{"ngdr.Caption", ClickCaption};
     for (const Caption& caption : Captions()) {
       map.emplace(std::string(kRollerPrefix) + caption.control, &kCaption);

@@ -45,7 +45,8 @@ struct Command {
   bool checkable = false;
 };
 
-/// All commands; those of the menus stand in menu order.
+/// All commands; those of the menus stand in menu order, and the edits of controls that are bound
+/// to fields behind all others.
 std::span<const Command> Commands();
 
 /// The toolbar's keys in its order; an empty one stands for a gap.
