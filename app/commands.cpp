@@ -1,9 +1,9 @@
 #include "app/commands.h"
 
 #include <array>
-#include <deque>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "base/runtime_error.h"
 
@@ -142,18 +142,17 @@ constexpr Command Typing(const char* words, Command command) {
   return command;
 }
 
-using CommandMap = std::map<std::string, const Command*, std::less<>>;
+void ChangeBound(Session& session, const Act& act) { session.main.Bound_Change(act); }
 
-/// Lets every control of a panel that is bound to a field be edited.
+/// The edits of a panel's controls that are bound to fields.
 template <class Panel>
-void AddBound(CommandMap& map, std::deque<Command>& commands) {
+void AddBound(std::vector<Command>& commands) {
   for (const BoundControl<Panel>& control : Panel::Bound()) {
     if (control.edit == nullptr) continue;
-    const Command edit = {control.name, [](Session& s, const Act& a) { s.main.Bound_Change(a); }};
     // A check box is clicked and not typed into.
     const bool check = std::string_view(control.name).starts_with("chk");
+    const Command edit = {control.name, ChangeBound};
     commands.push_back(check ? Step(control.words, edit) : Typing(control.words, edit));
-    map.emplace(control.name, &commands.back());
   }
 }
 
@@ -390,18 +389,23 @@ std::string PlainWords(std::string_view text) {
   return plain;
 }
 
-std::span<const Command> Commands() { return kCommands; }
+std::span<const Command> Commands() {
+  static const std::vector<Command> all = [] {
+    std::vector<Command> commands(kCommands.begin(), kCommands.end());
+    AddBound<DamagePanel>(commands);
+    AddBound<WeaponPanel>(commands);
+    AddBound<PoolPanel>(commands);
+    return commands;
+  }();
+  return all;
+}
 
 std::span<const char* const> ToolbarKeys() { return kToolbarKeys; }
 
 const Command* FindCommand(std::string_view name) {
   static const auto byName = [] {
-    CommandMap map;
-    static std::deque<Command> bound;
-    for (const Command& command : kCommands) map.emplace(command.name, &command);
-    AddBound<DamagePanel>(map, bound);
-    AddBound<WeaponPanel>(map, bound);
-    AddBound<PoolPanel>(map, bound);
+    std::map<std::string, const Command*, std::less<>> map;
+    for (const Command& command : Commands()) map.emplace(command.name, &command);
     static constexpr Command kCaption = Step("test modifier", {"ngdr.Caption", ClickCaption});
     for (const Caption& caption : Captions()) {
       map.emplace(std::string(kRollerPrefix) + caption.control, &kCaption);

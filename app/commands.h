@@ -69,7 +69,8 @@ struct Command {
 /// further.
 std::string PlainWords(std::string_view text);
 
-/// All commands; those of the menus stand in menu order.
+/// All commands; those of the menus stand in menu order, and the edits of controls that are bound
+/// to fields behind all others.
 std::span<const Command> Commands();
 
 /// The toolbar's keys in its order; an empty one stands for a gap.

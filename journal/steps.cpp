@@ -8,11 +8,6 @@
 namespace ng {
 namespace {
 
-/// The menu's text without its mnemonic and the dots of a question.
-std::string PlainWords(std::string_view text) {
-  return Replaced(Replaced(text, "&", ""), "...", "");
-}
-
 /// What the act does, in the words of its command.
 std::string WordsOf(const Act& act) {
   const Command* command = FindCommand(act.control);
