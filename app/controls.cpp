@@ -134,7 +134,7 @@ std::string WhoRolls(const MainForm& form) {
   const Slot tested = form.ngdr.TestOwner();
   const Slot paying = form.ngdr.PoolOwner();
   std::string name = players[shown].Name;
-  // Whoever has been removed since has no name.
+  // A combatant that has been removed since has no name.
   if (tested != shown && !players[tested].Name.empty()) name += ", test of " + players[tested].Name;
   if (paying != shown && paying != tested && !players[paying].Name.empty()) {
     name += ", pool of " + players[paying].Name;

@@ -15,11 +15,11 @@ class FightFiles {
  public:
   FightFiles(MainForm& form, Environment& environment) : form_(form), environment_(environment) {}
 
-  /// Imports character files in this order and displays each. A runtime error ends the row; those
-  /// before the one that failed stay.
+  /// Imports character files in this order and displays each. A runtime error ends the import;
+  /// those before the one that failed stay.
   void ImportCharacters(const std::vector<std::string>& names);
-  /// What was dropped on the window or handed over at the start: the state file first, which would
-  /// lay itself over the characters, and then those in the order given. Refused for two state
+  /// What was dropped on the window or handed over at the start: the state file first, which
+  /// would overwrite the characters, and then those in the order given. Refused for two state
   /// files; what is neither is named in the status bar.
   void OpenFiles(const std::vector<std::string>& paths);
 
@@ -32,7 +32,8 @@ class FightFiles {
   /// name the key and the slot; what was read before stays and is shown.
   void LoadState(const std::string& path);
 
-  /// Whether the fight differs from what was saved or loaded last, looks and pages aside.
+  /// Whether the fight differs from what was saved or loaded last, apart from who is displayed and
+  /// the open pages.
   bool Changed() const;
 
   /// Fills the note box from its file, which is asked for when none is named. Cancelling that is an

@@ -188,7 +188,8 @@ class MainForm : private SequencerHost {
   void WeaponBox_Change(std::string& box, const std::string& text);
   void chkTwoGuns_Click();
   void Sight_Click(Weapon weapon, Sight sight);
-  /// Fires a weapon; says in the status bar when the range does not count for want of a skill.
+  /// Fires a weapon; says in the status bar when no firing skill is chosen, so that
+  /// the range does not count.
   void Fire(Weapon weapon, int rounds);
   void FullAuto(Weapon weapon);
   void cmdDisarm(Weapon weapon);

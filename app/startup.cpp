@@ -7,8 +7,8 @@ void Main(Session& session, StartupWindows& windows) {
   windows.ShowSplash();
   const std::string directory = ReadCharacterDirectory(environment.files, environment.location);
   if (directory.empty()) session.main.mnuViewOptions();
-  // What was picked in the dialog was written to the file and takes effect at the next start; this
-  // run goes on with what was read, as it has always done.
+  // Deliberate: what was picked in the dialog was written to the file and takes effect at the next
+  // start; this run goes on with what was read.
   environment.settings.NG3Dir = directory;
   ReadSettings(environment.files, environment.location, environment.settings);
   session.main.Form_Load();

@@ -17,8 +17,8 @@ class StartupWindows {
 };
 
 /// The start of the program: reads the settings, with the options dialog before all else when there
-/// is no character directory, loads the main window behind the splash window and shows it. A
-/// runtime error is not trapped here and ends the program.
+/// is no character directory, loads the main window while the splash window is shown, and shows it.
+/// A runtime error is not trapped here and ends the program.
 void Main(Session& session, StartupWindows& windows);
 
 }  // namespace ng

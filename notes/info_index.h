@@ -21,8 +21,8 @@ class InfoIndex {
   };
 
   /// Reads the first of `paths` that can be read; nothing is reported when none can, since the
-  /// index is an aid. Returns the message to show, empty when all went well; the 201st entry ends
-  /// the loading with one and stays.
+  /// index is an aid. Returns the message to show, empty when all went well; the 201st entry
+  /// is kept and ends the loading with a message.
   std::string Load(Files& files, const std::vector<std::string>& paths);
 
   int Count() const { return count_; }
@@ -35,7 +35,7 @@ class InfoIndex {
   /// The first entry of this name, ASCII case ignored, or -1.
   int Find(std::string_view name) const;
 
-  /// What the file says about an entry: the text behind the first "|" of its line and the lines
+  /// What the file says about an entry: the text after the first "|" of its line and the lines
   /// that follow, comments included, up to the next entry. The file is read again; none when it has
   /// become too short or the entry is not there. Throws the file errors, Subscript out
   /// of range for an index outside 0 to 200.
