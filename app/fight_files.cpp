@@ -170,8 +170,8 @@ bool FightFiles::SaveState() {
   form_.statusMessage = "Fight saved";
   const std::string leftOut = Joined(NamesLeftOut(form_.fight));
   if (!leftOut.empty()) {
-    form_.statusMessage += ". Not saved (beyond slot " + PlainText(form_.fight.NumPlayers) +
-                           "): " + leftOut;
+    form_.statusMessage +=
+        ". Not saved (beyond slot " + PlainText(form_.fight.NumPlayers) + "): " + leftOut;
   }
   // The file names the note files and holds no notes.
   const std::string unfiled = Joined(NamesWithUnfiledNotes(form_.fight));
