@@ -44,7 +44,8 @@ class FightFiles {
   /// slot; what was read before stays and is shown.
   bool LoadState(const std::string& path);
 
-  /// Whether the fight differs from what was saved or loaded last, looks and pages aside.
+  /// Whether the fight differs from what was saved or loaded last, apart from who is displayed and
+  /// the open pages.
   bool Changed() const;
   const OnDisk& onDisk() const { return onDisk_; }
   void SetOnDisk(OnDisk onDisk) { onDisk_ = std::move(onDisk); }

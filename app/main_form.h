@@ -190,7 +190,8 @@ class MainForm : private SequencerHost, private DiceRoller::Weapons {
   void CP(Integer value);
   void optRangeSel(Weapon weapon, int range);
   void Sight_Click(Weapon weapon, Sight sight);
-  /// Fires a weapon; says in the status bar when the range does not count for want of a skill.
+  /// Fires a weapon; says in the status bar when no firing skill is chosen, so that
+  /// the range does not count.
   void Fire(Weapon weapon, int rounds);
   void FullAuto(Weapon weapon);
   void cmdDisarm(Weapon weapon);

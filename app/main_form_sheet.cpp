@@ -76,8 +76,10 @@ void MainForm::FullAuto(Weapon weapon) {
 }
 
 void MainForm::TellMissingSkill(Weapon weapon, int testsBefore) {
-  if (ngdr.TestsStarted() == testsBefore || !WieldsInMelee(Displayed(), weapon)) return;
-  statusMessage = "No firing skill chosen for this weapon: base number 4 at any range";
+  if (ngdr.TestsStarted() == testsBefore) return;
+  statusMessage = WieldsInMelee(Displayed(), weapon)
+                      ? "No firing skill chosen for this weapon: base number 4 at any range"
+                      : "Ready";
 }
 
 void MainForm::cmdDisarm(Weapon weapon) { firing.Disarm(weapon); }

@@ -11,8 +11,8 @@ bool Main(Session& session, StartupWindows& windows) {
     if (!session.Do({"mnuViewOptions"})) return false;
     profile.Forget();
   }
-  // What was picked in the dialog was written to the file and takes effect at the next start; this
-  // run goes on with what was read, as it has always done.
+  // Deliberate: what was picked in the dialog was written to the file and takes effect at the next
+  // start; this run goes on with what was read.
   environment.settings.NG3Dir = directory;
   ReadSettings(profile, environment.settings);
   if (!session.Do({"Form_Load"})) return false;

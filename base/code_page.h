@@ -6,7 +6,7 @@
 namespace ng {
 
 /// The Unicode character of a Windows-1252 byte. The five bytes that the code page leaves open
-/// stand for the control characters of the same number.
+/// are the control characters of the same number.
 char32_t CodePointOf(char byte);
 
 /// The Windows-1252 byte of a Unicode character; '?' for one outside the code page.

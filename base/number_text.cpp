@@ -101,7 +101,7 @@ Integer StrictInteger(std::string_view text) {
 
 std::string PlainText(double value) {
   std::array<char, 40> buffer{};
-  // Minus zero is no number that a game master knows.
+  // No game master expects "-0".
   const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
                                     value == 0 ? 0.0 : value, std::chars_format::general, 15);
   return {buffer.data(), result.ptr};

@@ -77,7 +77,7 @@ class Prompts {
   virtual SaveChoice AskToSave(std::string_view question) = 0;
   /// Shows the form and returns when it is closed.
   virtual void ShowModal(ModalForm form) = 0;
-  /// `done` of `total` steps of a piece of work are behind us, all of them at its end. Nothing need
+  /// `done` of `total` steps of a piece of work are done, all of them at its end. Nothing need
   /// be shown of work that is over in a moment.
   virtual void ShowProgress(std::string_view what, int done, int total) = 0;
 };

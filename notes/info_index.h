@@ -21,8 +21,8 @@ class InfoIndex {
   };
 
   /// Reads the first of `paths` that can be read; nothing is reported when none can, since the
-  /// index is an aid. Returns the message to show, empty when all went well; the 201st entry ends
-  /// the loading with one and stays.
+  /// index is an aid. Returns the message to show, empty when all went well; the 201st entry
+  /// is kept and ends the loading with a message.
   std::string Load(Files& files, const std::vector<std::string>& paths);
 
   int Count() const { return count_; }
@@ -37,7 +37,7 @@ class InfoIndex {
 
   /// What the file says about an entry: the text behind the first "|" of its line and the lines
   /// that follow, comments included, up to the next entry, parted by CR LF. The file is read again;
-  /// empty when it has become too short or the entry is not there. Throws the platform's file
+  /// empty when it has become too short or the entry is not there. Throws the file
   /// errors, Subscript out of range for an index outside 0 to 200.
   std::string EntryText(Files& files, int index) const;
 

@@ -25,7 +25,7 @@ std::uint32_t MarkOf(std::string_view name) {
          letter(name.size() / 2) << 8U | letter(name.size() - 1);
 }
 
-/// The number behind `word` in the key of a numbered list; nothing when the key is another one or
+/// The number after `word` in the key of a numbered list; nothing when the key is another one or
 /// the number is not in plain decimal ("Gear01").
 std::optional<std::size_t> NumberBehind(std::string_view word, std::string_view key) {
   if (key.size() <= word.size()) return {};

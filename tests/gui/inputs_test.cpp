@@ -181,11 +181,14 @@ void InputsTest::AFailedLogIsShownUntilItIsClicked() {
   StartFight();
   auto& failure = program_->Find<QToolButton>("lblLogFailure");
   QVERIFY(!failure.isVisible());
+  const int height = program_->Find("lblStatus").height();
   program_->files.failingWrite = 1;
   program_->Click("cmdShotsZ_0");
   program_->Key(Qt::Key_R, Qt::ControlModifier);
   QVERIFY(failure.isVisible());
   QCOMPARE(failure.text(), QStringLiteral("Log not written: Disk full"));
+  QCoreApplication::processEvents();
+  QCOMPARE(program_->Find("lblStatus").height(), height);
   program_->Click("lblLogFailure");
   QVERIFY(!failure.isVisible());
 }

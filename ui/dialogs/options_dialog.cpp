@@ -20,7 +20,7 @@
 namespace ng {
 namespace {
 
-/// What the directories are for, to whom has not seen the program before.
+/// What the directories are for, for somebody who is new to the program.
 QString FirstStartText() {
   return "Welcome. Choose the directory that holds your character files (*.ng3), and Forgekit's "
          "DATA "
@@ -175,7 +175,7 @@ void OptionsDialog::PaintGroup(const Group& group, const std::string& directory)
   const QString shown = directory.empty() ? "\u2013 none \u2013" : ToQString(directory);
   if (group.path->text() == shown) return;
   group.path->setText(shown);
-  // Of a path that is too long the end says more.
+  // The end of a long path says more than its beginning.
   group.path->end(false);
 }
 

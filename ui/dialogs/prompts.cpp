@@ -54,8 +54,7 @@ std::optional<std::string> AskForFile(QWidget* parent, const FileDialog& dialog,
   return PathText(box.selectedFiles().constFirst());
 }
 
-/// The box of a piece of work. It stays until the work is done, so that nothing else can be begun
-/// before, and a command runs to its end before the next.
+/// A progress box that cannot be closed: no other command may begin before the work is done.
 class WorkBox : public QProgressDialog {
  public:
   using QProgressDialog::QProgressDialog;
@@ -87,7 +86,7 @@ void QtPrompts::SetMainWindow(QWidget& window, std::function<void()> paint) {
 
 QWidget* QtPrompts::Parent() const {
   if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-  // A question from a window beside the main one goes back there.
+  // The focus goes back to the window that asked, which may be one beside the main one.
   QWidget* active = QApplication::activeWindow();
   return active != nullptr ? active : mainWindow_.data();
 }

@@ -84,7 +84,7 @@ class CaptionLabel : public QLabel {
 
   QSize sizeHint() const override {
     ensurePolished();
-    // The mnemonic's mark takes no room; a last letter that leans out does.
+    // The mnemonic's "&" takes no room; a last letter that leans to the right does.
     const QString shown = text().remove(u'&');
     const QFontMetricsF metrics(font(), this);
     const qreal bearing = shown.isEmpty() ? 0 : metrics.rightBearing(shown.back());

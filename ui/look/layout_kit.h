@@ -97,12 +97,12 @@ class FittedPage : public QWidget {
 
   /// What the page needs with the smaller text.
   QSize minimumSizeHint() const override;
-  /// The same: what is more comes from the window.
+  /// The same: any further room comes from the window.
   QSize sizeHint() const override;
 
  protected:
   /// Measures the page in both sizes; to be called when it holds everything. A page that is not
-  /// open at the start and needs no more room than the others leaves it to its first showing.
+  /// open at the start and needs no more room than the others is measured when it is first shown.
   void MeasureText();
   void resizeEvent(QResizeEvent* event) override;
 

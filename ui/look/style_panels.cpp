@@ -76,7 +76,7 @@ bool PaintFrame(QPainter& painter, const QStyleOptionFrame& option, const QWidge
   if (qobject_cast<const QAbstractScrollArea*>(&widget) == nullptr) {
     return PaintNamedPanel(painter, option, widget.objectName());
   }
-  // The grid, which has the focus nearly always, marks its current cell instead.
+  // The grid, which nearly always has the focus, shows it at its current cell instead.
   const bool grid = qobject_cast<const QTableView*>(&widget) != nullptr;
   const QColor edge = grid ? Theme::Current().fieldEdge : EdgeOf(option);
   PaintEdge(painter, option.rect, edge);

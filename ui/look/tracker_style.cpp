@@ -17,11 +17,11 @@
 namespace ng {
 namespace {
 
-/// What a line of a list is higher than its text.
+/// By how much a line of a list is higher than its text.
 constexpr int kLineAir = 2;
 
 constexpr int kEdge = 1;
-/// Between the edge of a line edit and its text, beside what the line edit keeps itself.
+/// Between the edge of a line edit and its text, in addition to what the line edit keeps itself.
 constexpr int kFieldPadding = 3;
 
 /// Whether the widget's text has a tone, and then the role of the palette that has its colour.

@@ -135,6 +135,8 @@ void MainWindow::BuildStatusBar() {
   failure->setToolTip("Click to dismiss; the list in the Game Master window is complete");
   failure->setAutoRaise(true);
   failure->setProperty("tone", "alarm");
+  // As high as the words beside it, so that nothing moves when it comes and goes.
+  failure->setMaximumHeight(failure->fontMetrics().height());
   statusBar()->addPermanentWidget(failure);
   for (QLabel** label : {&combatants_, &combatTurn_, &pass_, &roller_}) {
     *label = new QLabel(this);
@@ -147,7 +149,7 @@ void MainWindow::Place() {
   const WindowLayout& layout = session_.main.layout;
   const QScreen* screen = QGuiApplication::screenAt(KeptCentre(layout));
   if (screen == nullptr) screen = QGuiApplication::primaryScreen();
-  // The frame is not there yet; its title bar must have room above the window.
+  // The frame does not exist yet; its title bar must have room above the window.
   const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight);
   const QRect place =
       OpeningPlace(layout, screen->availableGeometry().adjusted(0, 0, 0, -titleBar));
@@ -252,7 +254,7 @@ void MainWindow::KeepPlace(const QRect& place) {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   if (!session_.main.closing) {
-    // Not by Do(): a window that is being closed goes without a word when it is closed once more.
+    // Not by Do(), which would close the window once more and so skip the question.
     session_.Do({"mnuFileExit"});
     PaintAll();
   }

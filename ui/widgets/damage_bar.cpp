@@ -19,7 +19,7 @@ constexpr int kLeastBoxWidth = 12;
 constexpr std::array<char, kTrackBoxes> kLetters = {'L', ' ', 'M', ' ', ' ',
                                                             'S', ' ', ' ', ' ', 'D'};
 
-/// The area of a box: the edges lie on whole device pixels, a pixel of room between two boxes.
+/// The area of a box: the edges are on whole device pixels, with a pixel between two boxes.
 QRectF BoxArea(const QWidget& bar, int box) {
   const double scale = bar.devicePixelRatioF();
   const double pitch = (bar.width() + 1.0) / kTrackBoxes;

@@ -48,7 +48,7 @@ class DirectoryPicker : public QObject {
   QFileSystemModel* model_;
   bool painting_ = false;
   /// The directory that the tree was opened at. It is kept in sight while those round it are still
-  /// being read, until the user turns to others.
+  /// being read, until the user chooses another.
   QPersistentModelIndex sought_;
   bool follow_ = false;
 };

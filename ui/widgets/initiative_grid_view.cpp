@@ -28,7 +28,7 @@ constexpr std::array<const char*, InitiativeGrid::kColumns> kCellActs = {"GridX_
 /// The colours of the rows never change, and neither do the lines between them.
 constexpr QColor kGridLine(0xB6, 0xBC, 0xC6);
 
-/// Paints a cell without the style's mark of the current cell, which would tint the row's colour.
+/// Paints a cell without the style's focus tint, which would change the row's colour.
 class CellDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;

@@ -25,7 +25,7 @@ PhaseLabel::PhaseLabel(QWidget* parent) : QLabel(parent) {
 }
 
 void PhaseLabel::FitFont() {
-  // Before the window is arranged the width says nothing.
+  // Before the window is laid out the width means nothing.
   if (!testAttribute(Qt::WA_Resized)) return;
   for (const double size : kSizes) {
     const QFont candidate = InterfaceFont(size, true);

@@ -109,7 +109,7 @@ class Connector {
                          QTreeWidgetItem* item = tree.selectedItems().constFirst();
                          perform({select.control, tree.indexOfTopLevelItem(item), {}});
                        });
-      // Enter and a double click ask what is known of the line.
+      // Enter and a double click show the details of the line.
       QObject::connect(&tree, &QTreeWidget::itemActivated, &owner_,
                        [select, &tree, perform = perform_](QTreeWidgetItem* item) {
                          perform({select.control, tree.indexOfTopLevelItem(item), {}});
@@ -137,7 +137,7 @@ class Connector {
   void ConnectCombo(QComboBox& combo) const {
     const WidgetName name = CommandOf(combo);
     if (name.control.empty()) return;
-    // What the user chooses, the entry that is chosen already included.
+    // Whatever the user chooses, even the entry that is chosen already.
     QObject::connect(&combo, &QComboBox::activated, &owner_, [name, perform = perform_](int entry) {
       perform({name.control, entry, {}});
     });

@@ -16,8 +16,8 @@ namespace ng {
 
 /// Paints a window from what the controls of its form show, and turns what the user does to the
 /// widgets into acts. A widget carries its control's name as object name, with "_" and the index
-/// behind it where it is an element of a control array; a copy of it elsewhere in the window has a
-/// "2" behind the name. A control without a widget is passed over.
+/// after it where it is an element of a control array; a copy of it elsewhere in the window has a
+/// "2" after the name. A control without a widget is passed over.
 class Binder : public QObject, private ControlVisitor {
  public:
   /// The window must hold all its widgets already. `prefix` is put before the widgets' names in the

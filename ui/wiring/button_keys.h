@@ -22,8 +22,8 @@ void PressWithKey(Qt::Key key, QLineEdit* box, QPushButton* button);
 /// turn, the shots and the reloading.
 void AddFightKeys(QWidget& window, const Perform& perform);
 
-/// In the boxes and notes of a window the keys that delete words and lines stay theirs, though a
-/// command has the same key elsewhere.
+/// In the boxes and notes of a window the keys that delete words and lines keep that meaning,
+/// though a command has the same key elsewhere.
 void KeepEditingKeys(QWidget& window);
 
 }  // namespace ng

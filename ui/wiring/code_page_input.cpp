@@ -1,6 +1,7 @@
 #include "ui/wiring/code_page_input.h"
 
 #include <QLineEdit>
+#include <QTimer>
 #include <QValidator>
 #include <utility>
 
@@ -12,22 +13,24 @@ namespace {
 class CodePageValidator : public QValidator {
  public:
   CodePageValidator(QLineEdit& edit, Perform perform)
-      : QValidator(&edit), edit_(edit), perform_(std::move(perform)) {}
+      : QValidator(&edit), afterwards_(new QTimer(this)) {
+    afterwards_->setSingleShot(true);
+    connect(afterwards_, &QTimer::timeout, this,
+            [perform = std::move(perform)] { perform({kLeftOutAct}); });
+  }
 
   State validate(QString& text, int& cursor) const override {
     const QString kept = WithoutForeign(text);
     if (kept == text) return Acceptable;
     cursor = static_cast<int>(WithoutForeign(text.left(cursor)).size());
     text = kept;
-    // Once the edit is over: painting in the middle of it would change the text under it.
-    QMetaObject::invokeMethod(
-        &edit_, [perform = perform_] { perform({kLeftOutAct}); }, Qt::QueuedConnection);
+    afterwards_->start(0);
     return Acceptable;
   }
 
  private:
-  QLineEdit& edit_;
-  Perform perform_;
+  /// Says it once the edit is over: painting in the middle of it would change the text under it.
+  QTimer* afterwards_;
 };
 
 }  // namespace
