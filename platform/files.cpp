@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 
 /// Far above any file of this program. Reading one of this size stays within a small multiple of
 /// it in memory.
-constexpr std::uintmax_t kLargestFile = 256U * 1024U * 1024U;
+constexpr std::uintmax_t kLargestFile = 256'000'000;
 
 /// The toolkit knows names of proper text only.
 QString FileName(const fs::path& path) {
@@ -45,7 +45,7 @@ void RefuseWhatIsNoFile(const fs::path& path) {
 /// What a path text names for writing. A placeholder stands for a character of a file that is
 /// there; no file is made under a name that holds one.
 fs::path PathToWrite(const std::string& path) {
-  const fs::path native = NativePath(path);
+  fs::path native = NativePath(path);
   RefuseWhatIsNoFile(native);
   const std::string name = PathText(native.filename());
   std::error_code error;

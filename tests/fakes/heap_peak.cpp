@@ -18,13 +18,19 @@ union Header {
 
 }  // namespace
 
-void* operator new(std::size_t size) {
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
   auto* const header = static_cast<Header*>(std::malloc(sizeof(Header) + size));
-  if (header == nullptr) throw std::bad_alloc();
+  if (header == nullptr) return nullptr;
   header->size = size;
   taken += size;
   mostTaken = std::max(mostTaken.load(), taken.load());
   return header + 1;
+}
+
+void* operator new(std::size_t size) {
+  void* const block = operator new(size, std::nothrow);
+  if (block == nullptr) throw std::bad_alloc();
+  return block;
 }
 
 void operator delete(void* block) noexcept {
