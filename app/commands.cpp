@@ -130,6 +130,13 @@ constexpr Command OfFiles(Command command) {
   return command;
 }
 
+/// The desk runs these; the session never sees them.
+constexpr Command OfDesk(Command command) {
+  command.run = [](Session&, const Act&) {};
+  command.effect = Effect::Desk;
+  return command;
+}
+
 /// A change by a control that is no menu entry, with what its step is called.
 constexpr Command Step(const char* words, Command command) {
   command.text = words;
@@ -165,8 +172,15 @@ const auto kCommands = std::to_array<Command>({
      "Load a saved fight"},
     OfFiles({"mnuFileSave", Main<&MainForm::mnuFileSave>, Menu::File, 1, "&Save State...", "Ctrl+S",
              "Save this fight"}),
+    OfDesk({"mnuFileRecent", nullptr, Menu::File, 1, "Recent &Fights...", "Ctrl+Shift+L",
+            "Take up a fight of this or an earlier session exactly where it was left"}),
     OfFiles({"mnuFileExit", Main<&MainForm::mnuFileExit>, Menu::File, 2, "E&xit", "Ctrl+Q",
              "Close the tracker"}),
+
+    OfDesk({"mnuEditUndo", nullptr, Menu::Edit, 0, "&Undo", "Ctrl+Z", "Take back the last step",
+            "Undo", "Undo"}),
+    OfDesk({"mnuEditRedo", nullptr, Menu::Edit, 0, "&Redo", "Ctrl+Shift+Z",
+            "Do again what was taken back", "Redo", "Redo"}),
 
     {"mnuTReroll", Main<&MainForm::mnuTReroll>, Menu::Turn, 0, "&Reroll", "Ctrl+R",
      "Roll everybody's initiative and begin a combat turn", "Reroll", "Reroll"},
@@ -204,6 +218,8 @@ const auto kCommands = std::to_array<Command>({
              "Ctrl+F", "Look up an entry of the reference file"}),
     Looking({"mnuViewInfo", Main<&MainForm::mnuViewInfo>, Menu::View, 1, "&Item Information",
              "Ctrl+Shift+I", "Show all details of the selected item"}),
+    OfDesk({"mnuViewHistory", nullptr, Menu::View, 1, "&History", "Ctrl+H",
+            "Show what has happened in this fight, and go back to any of it"}),
     Looking({"ShowRoller", Main<&MainForm::ShowRoller>, Menu::View, 1, "Dice &Roller", "F12",
              "Show the dice roller"}),
     Looking({"mnuViewStatusBar", Main<&MainForm::mnuViewStatusBar>, Menu::View, 1, "&Status Bar",
@@ -352,6 +368,17 @@ const auto kCommands = std::to_array<Command>({
 
     Looking({"frmInfo.Close", [](Session& s, const Act&) { s.main.itemInfo.open = false; }}),
 
+    OfDesk({"frmHistory.txtFind", nullptr}),
+    OfDesk({"frmHistory.cmbWho", nullptr}),
+    OfDesk({"frmHistory.lstLines_Select", nullptr}),
+    OfDesk({"frmHistory.cmdShow", nullptr}),
+    OfDesk({"frmHistory.cmdBack", nullptr}),
+    OfDesk({"frmHistory.cmdSave", nullptr}),
+    OfDesk({"frmHistory.Close", nullptr}),
+    OfDesk({"frmRecent.lstFights_Select", nullptr}),
+    OfDesk({"frmRecent.cmdTakeUp", nullptr}),
+    OfDesk({"frmRecent.cmdCancel", nullptr}),
+
     {"frmSelSkillLevel.cmdSkillSelect",
      [](Session& s, const Act& a) { s.main.skillLevel.cmdSkillSelect_Click(a.index); }},
     {"frmSelSkillLevel.Close", [](Session& s, const Act&) { s.main.skillLevel.Form_Close(); }},
@@ -376,8 +403,9 @@ const auto kCommands = std::to_array<Command>({
 });
 
 constexpr auto kToolbarKeys = std::to_array<const char*>(
-    {"New", "Open", "", "Reroll", "Reset", "", "Prev", "Next", "", "ClearFlag", "", "Delay",
-     "Disable", "", "Grenade", "Rocket", "", "Multiply", "Delete"});
+    {"New", "Open",    "",       "Reroll", "Reset",     "",      "Prev",  "Next",
+     "",    "Undo",    "Redo",   "",       "ClearFlag", "",      "Delay", "Disable",
+     "",    "Grenade", "Rocket", "",       "Multiply",  "Delete"});
 
 }  // namespace
 

@@ -9,18 +9,16 @@
 namespace ng {
 
 /// The menus of the main window, in their order.
-enum class Menu { None, File, Turn, Combatant, View, Help };
+enum class Menu { None, File, Edit, Turn, Combatant, View, Help };
 
 /// A menu's title, with the mnemonic marked by "&".
 struct MenuTitle {
   Menu menu;
   const char* text;
 };
-inline constexpr MenuTitle kMenuTitles[] = {{Menu::File, "&File"},
-                                            {Menu::Turn, "&Turn"},
-                                            {Menu::Combatant, "&Combatant"},
-                                            {Menu::View, "&View"},
-                                            {Menu::Help, "&Help"}};
+inline constexpr MenuTitle kMenuTitles[] = {{Menu::File, "&File"}, {Menu::Edit, "&Edit"},
+                                            {Menu::Turn, "&Turn"}, {Menu::Combatant, "&Combatant"},
+                                            {Menu::View, "&View"}, {Menu::Help, "&Help"}};
 
 /// What an act of a command is to the fight's history.
 enum class Effect {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/act.h"
+#include "app/history_form.h"
 #include "app/main_form.h"
 #include "app/options_form.h"
 #include "import/loader.h"
@@ -21,6 +22,9 @@ class Session {
   LoaderForm loader;
   OptionsForm options;
   MainForm main;
+  /// What the desk shows; see journal/.
+  HistoryForm history;
+  RecentForm recent;
 
   /// Runs the command that the act names. Returns whether it came to its end: a runtime error, or
   /// whatever else is thrown, ends the command and is told, and what the command had changed before

@@ -47,7 +47,7 @@ class Uniform {
 };
 
 /// The modal windows that one form can ask for; the door hands them on to their own forms.
-enum class ModalForm { Options, Loader, SkillLevel, About };
+enum class ModalForm { Options, Loader, SkillLevel, About, Recent };
 
 /// What the common file dialog is opened with.
 struct FileDialog {
@@ -75,6 +75,8 @@ class Prompts {
   virtual std::optional<std::string> OpenFile(const FileDialog& dialog) = 0;
   virtual std::optional<std::string> SaveFile(const FileDialog& dialog) = 0;
   virtual SaveChoice AskToSave(std::string_view question) = 0;
+  /// Whether to take up a fight that was not closed.
+  virtual bool AskToTakeUp(std::string_view question) = 0;
   /// Shows the form and returns when it is closed.
   virtual void ShowModal(ModalForm form) = 0;
   /// `done` of `total` steps of a piece of work are done, all of them at its end. Nothing need

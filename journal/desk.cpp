@@ -40,11 +40,15 @@ struct Looks {
   bool statusBarVisible;
   WindowLayout layout;
   std::string lblJournal;
+  HistoryForm history;
 
-  static Looks Of(const MainForm& form) {
-    return {form.darkColours, form.statusBarVisible, form.layout, form.lblJournal};
+  static Looks Of(const Session& session) {
+    const MainForm& form = session.main;
+    return {form.darkColours, form.statusBarVisible, form.layout, form.lblJournal, session.history};
   }
-  void GiveTo(MainForm& form) const {
+  void GiveTo(Session& session) const {
+    MainForm& form = session.main;
+    session.history = history;
     form.darkColours = darkColours;
     form.statusBarVisible = statusBarVisible;
     form.layout = layout;
@@ -58,7 +62,8 @@ Desk::Desk(const Outside& outside)
     : outside_(outside),
       head_(outside.head),
       live_(outside.ports, contents_),
-      writer_(outside.journals, outside.clock) {
+      writer_(outside.journals, outside.clock),
+      forms_(*this, contents_) {
   live_.Set(head_);
   writer_.Begin(head_);
 }
@@ -71,14 +76,18 @@ bool Desk::Start(StartupWindows& windows) {
 
 void Desk::Do(const Act& act) {
   if (running_) {
+    const Command* command = FindCommand(act.control);
+    // While an act runs nothing is undone.
+    if (command != nullptr && command->effect == Effect::Desk) return;
     live_.tape.NoteModalAct(act);
     session().Do(act);
     return;
   }
-  if (FindCommand(act.control) == nullptr) {
-    throw std::invalid_argument("no command is named " + act.control);
-  }
+  const Command* command = FindCommand(act.control);
+  if (command == nullptr) throw std::invalid_argument("no command is named " + act.control);
+  if (command->effect == Effect::Desk) return forms_.Do(act);
   Record(act, [&] { session().Do(act); });
+  forms_.Follow();
 }
 
 void Desk::Record(const Act& act, const std::function<void()>& run) {
@@ -133,13 +142,13 @@ void Desk::Redo() {
 
 void Desk::GoTo(std::size_t entries) {
   const std::vector<std::string> log = session().main.gmLog.lstGMinfo();
-  const Looks looks = Looks::Of(session().main);
+  const Looks looks = Looks::Of(session());
   // What the disk holds does not change with the fight.
   const OnDisk onDisk = session().main.fightFiles.onDisk();
   waiting_.clear();
   timeline_.SetCursor(entries);
   PlayTo(entries);
-  looks.GiveTo(session().main);
+  looks.GiveTo(session());
   session().main.fightFiles.SetOnDisk(onDisk);
   steps_.MoveTo(entries);
   lines_ = {};
@@ -147,6 +156,7 @@ void Desk::GoTo(std::size_t entries) {
   writer_.WriteSummary(Summary());
   TellNotice(writer_.TakeNotice());
   LogWhatMoved(log);
+  forms_.Follow();
 }
 
 void Desk::PlayTo(std::size_t entries) {
@@ -195,7 +205,7 @@ void Desk::Adopt(Journal journal) {
   head_ = std::move(journal.head);
   contents_ = std::move(journal.contents);
   timeline_ = std::move(journal.timeline);
-  const Looks looks = Looks::Of(session().main);
+  const Looks looks = Looks::Of(session());
   const std::size_t cursor = timeline_.Cursor();
   steps_.Clear();
   waiting_.clear();
@@ -212,8 +222,9 @@ void Desk::Adopt(Journal journal) {
   });
   if (cursor != timeline_.Size()) PlayTo(cursor);
   steps_.MoveTo(cursor);
-  looks.GiveTo(session().main);
+  looks.GiveTo(session());
   TellNotice(Sentence(journal.end));
+  forms_.Begin();
 }
 
 void Desk::TellNotice(const std::string& notice) {

@@ -6,6 +6,7 @@
 
 #include "app/startup.h"
 #include "base/ports.h"
+#include "journal/desk_forms.h"
 #include "journal/journal_writer.h"
 #include "journal/kept_fights.h"
 #include "journal/stage.h"
@@ -54,12 +55,15 @@ class Desk {
   void GoTo(std::size_t entries);
   const Steps& steps() const { return steps_; }
 
+  /// To be called once the main window is there: offers the fight that was not closed.
+  void OfferUnclosed() { forms_.OfferUnclosed(); }
   std::vector<KeptFight> KeptFights() const { return ng::KeptFights(outside_.journals); }
   std::optional<KeptFight> Unclosed() const { return UnclosedFight(outside_.journals); }
   /// Closes the fight on the desk and takes up a kept one exactly where it was left, with its
   /// steps. Where that cannot be done a sentence says why, and nothing else happens.
   void TakeUp(const std::string& name);
 
+  const RealPorts& ports() const { return outside_.ports; }
   const Timeline& timeline() const { return timeline_; }
   const JournalHead& head() const { return head_; }
   Contents& contents() { return contents_; }
@@ -91,6 +95,7 @@ class Desk {
   /// does: to look around must not cost the redo.
   std::vector<NewEntry> waiting_;
   JournalWriter writer_;
+  DeskForms forms_;
   /// An act runs.
   bool running_ = false;
 };

@@ -1,5 +1,6 @@
 #include "journal/steps.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "app/commands.h"
@@ -23,11 +24,14 @@ bool IsAboutTheDisplayed(const Command& command) {
   return command.menu == Menu::None || command.menu == Menu::Combatant;
 }
 
-std::string NameOf(const Act& act, const std::string& who) {
+/// Whom the step is about, empty for the whole table.
+std::string WhoOf(const Act& act, const std::string& displayed) {
   const Command* command = FindCommand(act.control);
-  const std::string words = WordsOf(act);
-  if (command == nullptr || who.empty() || !IsAboutTheDisplayed(*command)) return words;
-  return who + ", " + words;
+  return command != nullptr && IsAboutTheDisplayed(*command) ? displayed : std::string();
+}
+
+std::string NameOf(const Steps::Step& step) {
+  return step.who.empty() ? step.words : step.who + ", " + step.words;
 }
 
 std::vector<Integer> Counters(const Fight& fight) {
@@ -79,7 +83,7 @@ bool Steps::Changed(const Session& session, const Act& act, bool refused) {
 void Steps::Add(const Act& act, std::size_t entry) {
   steps_.resize(done_);
   if (goesOn_) return;
-  steps_.push_back({entry, NameOf(act, who_)});
+  steps_.push_back({entry, WhoOf(act, who_), WordsOf(act)});
   done_ = steps_.size();
 }
 
@@ -89,12 +93,19 @@ void Steps::Clear() {
   edited_.reset();
 }
 
-std::string Steps::UndoName() const { return CanUndo() ? steps_[done_ - 1].name : std::string(); }
+std::string Steps::UndoName() const {
+  return CanUndo() ? NameOf(steps_[done_ - 1]) : std::string();
+}
 
-std::string Steps::RedoName() const { return CanRedo() ? steps_[done_].name : std::string(); }
+std::string Steps::RedoName() const { return CanRedo() ? NameOf(steps_[done_]) : std::string(); }
 
 std::size_t Steps::EntriesAfterRedo(std::size_t size) const {
   return done_ + 1 < steps_.size() ? steps_[done_ + 1].first : size;
+}
+
+const Steps::Step* Steps::BeginningAt(std::size_t entry) const {
+  const auto step = std::ranges::lower_bound(steps_, entry, {}, &Step::first);
+  return step != steps_.end() && step->first == entry ? &*step : nullptr;
 }
 
 void Steps::MoveTo(std::size_t entries) {

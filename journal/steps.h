@@ -32,15 +32,18 @@ class Steps {
   std::size_t EntriesAfterRedo(std::size_t size) const;
   /// So many entries are done now.
   void MoveTo(std::size_t entries);
-  /// Whether a step ends at so many entries.
-  bool Any() const { return !steps_.empty(); }
+
+  struct Step {
+    /// Its first entry.
+    std::size_t first = 0;
+    /// Empty for a step of the whole table.
+    std::string who;
+    std::string words;
+  };
+  /// The step that begins with this entry, null when none does.
+  const Step* BeginningAt(std::size_t entry) const;
 
  private:
-  struct Step {
-    std::size_t first = 0;
-    std::string name;
-  };
-
   std::vector<Step> steps_;
   std::size_t done_ = 0;
   std::string who_;

@@ -67,6 +67,8 @@ class Tape : public Files, public Prompts, public UserSettings {
   std::optional<std::string> OpenFile(const FileDialog& dialog) override;
   std::optional<std::string> SaveFile(const FileDialog& dialog) override;
   SaveChoice AskToSave(std::string_view question) override;
+  /// Asked by the desk alone, which has the real ports.
+  bool AskToTakeUp(std::string_view) override { return false; }
   void ShowModal(ModalForm form) override;
   void ShowProgress(std::string_view what, int done, int total) override;
 

@@ -24,11 +24,23 @@ class Timeline {
 
   /// Adds an entry behind the cursor, where whatever was undone goes. `lines` are an EntryWriter's.
   void Add(std::string_view lines);
-  void Clear();
 
-  /// Hands the first `count` entries to `take`, which ends the walk by false.
+  /// How far a walk has come.
+  struct Place {
+    explicit Place(Contents& contents) : reader(contents) {}
+    EntryReader reader;
+    std::size_t offset = 0;
+    /// Entries that were handed over.
+    std::size_t entries = 0;
+  };
+  /// Hands the entries from the place up to the first `count` to `take`, which ends the walk by
+  /// false.
+  void Walk(Place& place, std::size_t count, const std::function<bool(const Entry&)>& take) const;
+  /// The same from the first entry on.
   void ForEach(std::size_t count, Contents& contents,
                const std::function<bool(const Entry&)>& take) const;
+  /// Counts up when entries were replaced, so that what was worked out from them is void.
+  int Generation() const { return generation_; }
   /// Bytes in memory.
   std::size_t Bytes() const;
 
@@ -37,6 +49,7 @@ class Timeline {
   /// Where each entry's lines end.
   std::vector<std::size_t> ends_;
   std::size_t cursor_ = 0;
+  int generation_ = 0;
 };
 
 }  // namespace ng

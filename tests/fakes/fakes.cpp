@@ -132,9 +132,13 @@ SaveChoice ScriptedPrompts::AskToSave(std::string_view question) {
   return answer.kind == Answer::Kind::Discard ? SaveChoice::Discard : SaveChoice::Cancel;
 }
 
+bool ScriptedPrompts::AskToTakeUp(std::string_view question) {
+  return TakeAnswer("take up? " + Quoted(question)).kind == Answer::Kind::Save;
+}
+
 void ScriptedPrompts::ShowModal(ModalForm form) {
-  constexpr std::array<const char*, 4> kNames = {"frmOptions", "frmLoader", "frmSelSkillLevel",
-                                                 "frmAbout"};
+  constexpr std::array<const char*, 5> kNames = {"frmOptions", "frmLoader", "frmSelSkillLevel",
+                                                 "frmAbout", "frmRecent"};
   const Answer answer =
       TakeAnswer(std::string("modal ") + kNames.at(static_cast<std::size_t>(form)));
   for (const Act& act : answer.acts) perform(act);

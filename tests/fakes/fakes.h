@@ -97,6 +97,7 @@ class ScriptedPrompts : public Prompts, public Script {
   std::optional<std::string> OpenFile(const FileDialog& dialog) override;
   std::optional<std::string> SaveFile(const FileDialog& dialog) override;
   SaveChoice AskToSave(std::string_view question) override;
+  bool AskToTakeUp(std::string_view question) override;
   void ShowModal(ModalForm form) override;
   void ShowProgress(std::string_view, int done, int total) override { underWay = done < total; }
   /// Work was begun and not yet ended.

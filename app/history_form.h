@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace ng {
+
+/// The history window, frmHistory: what happened, a line a step, under headings for combat turn and
+/// pass. The desk fills it.
+struct HistoryForm {
+  bool open = false;
+  /// Only lines that contain this are listed.
+  std::string txtFind;
+  /// "Everybody", then the names of those whom the lines are about.
+  std::vector<std::string> cmbWho;
+  int cmbWhoIndex = 0;
+  /// Columns: hour, who, what, what changed. A heading has its words in the second column alone;
+  /// what was undone has "Taken back" before its words.
+  std::vector<std::string> lstLines;
+  int lstLinesIndex = -1;
+};
+
+/// The dialog of recent fights, frmRecent. The desk fills it.
+struct RecentForm {
+  bool open = false;
+  /// Columns: when, combatants, combat turn, state file, how it was left.
+  std::vector<std::string> lstFights;
+  int lstFightsIndex = -1;
+  /// What is to be said of the selected fight.
+  std::string lblFight;
+};
+
+}  // namespace ng
