@@ -32,9 +32,13 @@ TEST(History, TellsEachStepByWhatItChanged) {
   run.Do("cmdMDam", 0);
   for (const char* text : {"a", "ab", "abc"}) run.Do("txtNotes", 0, text);
   run.Do("cmdShots1");
-  EXPECT_EQ(Told(form), (Lines{"Vex\tOpen\tVex comes in",
-                               "Vex\tMultiply character (NPC)\tVex::1 comes in; \"\"",
-                               "Vex\troll\troll 0 to 25"}));
+  EXPECT_EQ(Told(form),
+            (Lines{"\tOpen\tVex comes in", "Vex\tMultiply character (NPC)\tVex::1 comes in",
+                   "Vex\troll\troll 0 to 25", "Combat turn 1, pass 1",
+                   "\tReset to top\tVex: net 0 to 25", "Vex\tNext\t",
+                   "Vex::1\tphysical moderate wound\tphysical 0 to 3, wound modifier 0 to 2, net 0 "
+                   "to -2",
+                   "Vex::1\tnote\tnote none to abc; \"Can only shoot on PC's turn!\""}));
 }
 
 TEST(History, FindsFiltersAndGoesBack) {
