@@ -11,7 +11,7 @@ namespace ng {
 SampleProgram::SampleProgram(const Theme& theme)
     : session({files_, uniform_, prompts_, userSettings_, {{}, PathText(folder_.path())}, {}}) {
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder_.path());
-  prompts_.Attach(session);
+  prompts_.Attach(session, door_);
   if (theme.dark) session.Do({"mnuViewDark"});
   ApplyTheme(*qApp, theme);
 }
@@ -26,7 +26,7 @@ void SampleProgram::Run(Start start) {
 }
 
 void SampleProgram::LoadMain() {
-  window = std::make_unique<MainWindow>(session);
+  window = std::make_unique<MainWindow>(session, door_);
   prompts_.SetMainWindow(*window, [this] { window->PaintAll(); });
 }
 

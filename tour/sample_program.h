@@ -40,6 +40,8 @@ class SampleProgram : private StartupWindows {
   std::unique_ptr<MainWindow> window;
 
  private:
+  const Perform door_ = [this](const Act& act) { session.Do(act); };
+
   void ShowSplash() override {}
   void LoadMain() override;
   void UnloadSplash() override {}

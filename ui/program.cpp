@@ -24,8 +24,9 @@ namespace {
 
 class RealWindows : public StartupWindows {
  public:
-  RealWindows(Session& session, QtPrompts& prompts, std::function<void(QWidget&)> loaded)
-      : session_(session), prompts_(prompts), loaded_(std::move(loaded)) {}
+  RealWindows(const Session& session, Perform door, QtPrompts& prompts,
+              std::function<void(QWidget&)> loaded)
+      : session_(session), door_(std::move(door)), prompts_(prompts), loaded_(std::move(loaded)) {}
 
   void ShowSplash() override {
     splash_ = std::make_unique<Splash>();
@@ -35,7 +36,7 @@ class RealWindows : public StartupWindows {
   }
 
   void LoadMain() override {
-    main_ = std::make_unique<MainWindow>(session_);
+    main_ = std::make_unique<MainWindow>(session_, door_);
     prompts_.SetMainWindow(*main_, [this] { main_->PaintAll(); });
     if (loaded_) loaded_(*main_);
   }
@@ -51,7 +52,8 @@ class RealWindows : public StartupWindows {
   }
 
  private:
-  Session& session_;
+  const Session& session_;
+  Perform door_;
   QtPrompts& prompts_;
   std::function<void(QWidget&)> loaded_;
   std::unique_ptr<Splash> splash_;
@@ -70,10 +72,11 @@ int Run(QApplication& application, std::function<void(QWidget&)> loaded) {
   SeededUniform uniform(RandomSeed());
   QtPrompts prompts;
   Session session(Environment{files, uniform, prompts, userSettings, Location(), {}});
-  prompts.Attach(session);
+  const Perform door = [&session](const Act& act) { session.Do(act); };
+  prompts.Attach(session, door);
   if (DesktopIsDark(application)) session.Do({"mnuViewDark"});
   ApplyTheme(application, session.main.darkColours ? Theme::Dark() : Theme::Light());
-  RealWindows windows(session, prompts, std::move(loaded));
+  RealWindows windows(session, door, prompts, std::move(loaded));
   if (!Main(session, windows)) return 1;
   windows.Open(QCoreApplication::arguments().mid(2));
   return QApplication::exec();

@@ -78,6 +78,13 @@ Act ReadAct(std::string_view line) {
   return act;
 }
 
+std::string ActText(const Act& act) {
+  std::string text = act.control;
+  if (act.index != 0) text += " " + std::to_string(act.index);
+  if (!act.text.empty()) text += " " + Quoted(act.text);
+  return text;
+}
+
 ScriptedPrompts::Answer ReadAnswer(std::string_view line) {
   using Kind = ScriptedPrompts::Answer::Kind;
   WordReader words(line);
@@ -113,10 +120,7 @@ class Player {
   void PerformPending() {
     if (!pending_) return;
     const std::unique_ptr<Act> act = std::move(pending_);
-    transcript_ << "> " << act->control;
-    if (act->index != 0) transcript_ << ' ' << act->index;
-    if (!act->text.empty()) transcript_ << ' ' << Quoted(act->text);
-    transcript_ << '\n';
+    transcript_ << "> " << ActText(*act) << '\n';
     Perform(*act);
     for (const std::string& entry : prompts_.TakeLog()) transcript_ << entry << '\n';
     Snapshot now = TakeSnapshot(*session_);
@@ -156,12 +160,25 @@ class Player {
     prompts_.Check();
   }
 
+  /// What has changed in a modal form goes among what was shown and asked.
+  void LookAt(const std::string& form) {
+    Snapshot now = TakeSnapshot(*session_);
+    for (std::string& difference : Differences(looked_, now)) {
+      if (difference.starts_with(form)) prompts_.log.push_back(std::move(difference));
+    }
+    looked_ = std::move(now);
+  }
+
   void Start() {
     if (!uniform_) throw std::runtime_error("no seed is given");
     session_ = std::make_unique<Session>(
         Environment{files_, *uniform_, prompts_, userSettings_, {{}, "C:\\tracker"}, {}});
     shown_ = TakeSnapshot(*session_);
-    prompts_.perform = [this](const Act& act) { session_->Do(act); };
+    prompts_.perform = [this](const Act& act) {
+      prompts_.log.push_back(">> " + ActText(act));
+      session_->Do(act);
+    };
+    prompts_.look = [this](const std::string& form) { LookAt(form); };
     NoWindows windows;
     if (!Main(*session_, windows)) throw std::runtime_error("the program does not start");
   }
@@ -174,6 +191,8 @@ class Player {
   std::unique_ptr<Session> session_;
   std::unique_ptr<Act> pending_;
   Snapshot shown_;
+  /// What a modal form was last seen with.
+  Snapshot looked_;
 };
 
 }  // namespace

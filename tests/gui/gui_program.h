@@ -65,10 +65,12 @@ class GuiProgram : private StartupWindows {
   FakeUserSettings userSettings;
   Session session{{files, uniform, prompts, userSettings, {{}, "C:\\tracker"}, {}}};
   Fight& fight = session.main.fight;
+  /// The door of the windows.
+  const Perform door = [this](const Act& act) { session.Do(act); };
   std::unique_ptr<MainWindow> window;
 
   GuiProgram() {
-    prompts.Attach(session);
+    prompts.Attach(session, door);
     QObject::connect(&messageWatch_, &QTimer::timeout, [] {
       const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
       if (box != nullptr) qFatal("unexpected message: %s", qPrintable(box->text()));
@@ -170,7 +172,7 @@ class GuiProgram : private StartupWindows {
 
   void ShowSplash() override {}
   void LoadMain() override {
-    window = std::make_unique<MainWindow>(session);
+    window = std::make_unique<MainWindow>(session, door);
     prompts.SetMainWindow(*window, [this] { window->PaintAll(); });
   }
   void UnloadSplash() override {}

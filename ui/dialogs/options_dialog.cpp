@@ -11,11 +11,9 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
-#include "app/session.h"
 #include "ui/look/theme.h"
 #include "ui/widgets/directory_picker.h"
 #include "ui/wiring/path_text.h"
-#include "ui/wiring/text.h"
 
 namespace ng {
 namespace {
@@ -42,10 +40,9 @@ QString TimeText(OptionsDialog::Occasion occasion) {
 
 }  // namespace
 
-OptionsDialog::OptionsDialog(Session& session, Occasion occasion, QWidget* parent)
-    : QDialog(parent), session_(session) {
-  setObjectName(QStringLiteral("frmOptions"));
-  setWindowTitle(tr("Options"));
+OptionsDialog::OptionsDialog(const Session& session, const Perform& door, Occasion occasion,
+                             QWidget* parent)
+    : FormDialog("frmOptions", tr("Options"), session, door, parent) {
   resize(720, 470);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(12, 10, 12, 12);
@@ -58,8 +55,8 @@ OptionsDialog::OptionsDialog(Session& session, Occasion occasion, QWidget* paren
   }
   auto* groups = new QHBoxLayout;
   groups->setSpacing(8);
-  characters_ = AddGroup(*groups, tr("Character directory"), "NG3");
-  data_ = AddGroup(*groups, tr("DATA directory"), "Dat");
+  AddGroup(*groups, tr("Character directory"), "NG3");
+  AddGroup(*groups, tr("DATA directory"), "Dat");
   column->addLayout(groups, 1);
   column->addWidget(BuildSwitches());
   auto* time = new QLabel(TimeText(occasion), this);
@@ -70,8 +67,7 @@ OptionsDialog::OptionsDialog(Session& session, Occasion occasion, QWidget* paren
   Paint();
 }
 
-OptionsDialog::Group OptionsDialog::AddGroup(QBoxLayout& row, const QString& title,
-                                             const char* word) {
+void OptionsDialog::AddGroup(QBoxLayout& row, const QString& title, const char* word) {
   const QString suffix = QString::fromLatin1(word);
   auto* box = new QGroupBox(title, this);
   auto* picker =
@@ -83,6 +79,7 @@ OptionsDialog::Group OptionsDialog::AddGroup(QBoxLayout& row, const QString& tit
   path->setReadOnly(true);
   path->setFocusPolicy(Qt::ClickFocus);
   path->setFont(InterfaceFont(10, true));
+  path->setProperty("emptyText", tr("\u2013 none \u2013"));
   auto* column = new QVBoxLayout(box);
   column->setContentsMargins(10, 12, 10, 10);
   column->setSpacing(6);
@@ -101,17 +98,17 @@ OptionsDialog::Group OptionsDialog::AddGroup(QBoxLayout& row, const QString& tit
   row.addWidget(box, 1);
 
   const std::string control = "frmOptions.dir" + suffix.toStdString();
-  connect(picker, &DirectoryPicker::DriveChosen, this,
-          [this, control](const QString&, const QString& root) { Do(control, PathText(root)); });
-  connect(picker, &DirectoryPicker::DirectoryChosen, this,
-          [this, control](const QString& directory) { Do(control, PathText(directory)); });
-  connect(browse, &QPushButton::clicked, this, [this, control, title, path] {
+  const auto choose = [this, control](const QString& directory) {
+    Do({control, 0, PathText(directory)});
+  };
+  connect(picker, &DirectoryPicker::DriveChosen, this, choose);
+  connect(picker, &DirectoryPicker::DirectoryChosen, this, choose);
+  connect(browse, &QPushButton::clicked, this, [this, choose, title, path] {
     const QString shown = path->text();
     const QString from = QFileInfo(shown).isDir() ? shown : QDir::homePath();
     const QString directory = QFileDialog::getExistingDirectory(this, title, from);
-    if (!directory.isEmpty()) Do(control, PathText(directory));
+    if (!directory.isEmpty()) choose(directory);
   });
-  return {picker, path};
 }
 
 QWidget* OptionsDialog::BuildSwitches() {
@@ -119,17 +116,13 @@ QWidget* OptionsDialog::BuildSwitches() {
   auto* column = new QVBoxLayout(box);
   column->setContentsMargins(10, 10, 10, 8);
   column->setSpacing(4);
-  cloneInit_ =
-      AddSwitch(*column, "chkCloneInit", tr("Copies take their original's initiative &roll"));
-  disableRoller_ = AddSwitch(*column, "chkDisableNGDR", tr("Do not &use the dice roller"));
-  return box;
-}
-
-QCheckBox* OptionsDialog::AddSwitch(QBoxLayout& column, const char* name, const QString& text) {
-  auto* box = new QCheckBox(text, this);
-  box->setObjectName(QString::fromLatin1(name));
-  column.addWidget(box);
-  connect(box, &QCheckBox::clicked, this, [this, name] { Do(std::string("frmOptions.") + name); });
+  const auto add = [box, column](const char* name, const QString& text) {
+    auto* check = new QCheckBox(text, box);
+    check->setObjectName(QString::fromLatin1(name));
+    column->addWidget(check);
+  };
+  add("chkCloneInit", tr("Copies take their original's initiative &roll"));
+  add("chkDisableNGDR", tr("Do not &use the dice roller"));
   return box;
 }
 
@@ -137,11 +130,9 @@ QBoxLayout* OptionsDialog::BuildButtons() {
   auto* ok = new QPushButton(tr("OK"), this);
   ok->setObjectName(QStringLiteral("cmdOK"));
   ok->setDefault(true);
-  connect(ok, &QPushButton::clicked, this, [this] { Do("frmOptions.cmdOK"); });
   auto* cancel = new QPushButton(tr("Cancel"), this);
   cancel->setObjectName(QStringLiteral("cmdCancel"));
   cancel->setAutoDefault(false);
-  connect(cancel, &QPushButton::clicked, this, &OptionsDialog::reject);
   auto* row = new QHBoxLayout;
   row->setSpacing(6);
   row->addStretch();
@@ -150,31 +141,6 @@ QBoxLayout* OptionsDialog::BuildButtons() {
     row->addWidget(button);
   }
   return row;
-}
-
-void OptionsDialog::reject() { Do("frmOptions.cmdCancel"); }
-
-void OptionsDialog::Do(const std::string& control, const std::string& text) {
-  session_.Do({control, 0, text});
-  Paint();
-  if (!session_.options.open) done(Accepted);
-}
-
-void OptionsDialog::Paint() {
-  const OptionsForm& form = session_.options;
-  PaintGroup(characters_, form.dirNG3);
-  PaintGroup(data_, form.dirDat);
-  cloneInit_->setChecked(form.chkCloneInit);
-  disableRoller_->setChecked(form.chkDisableNGDR);
-}
-
-void OptionsDialog::PaintGroup(const Group& group, const std::string& directory) {
-  group.picker->ShowDirectory(directory);
-  const QString shown = directory.empty() ? tr("\u2013 none \u2013") : ToQString(directory);
-  if (group.path->text() == shown) return;
-  group.path->setText(shown);
-  // Of a path that is too long the end says more.
-  group.path->end(false);
 }
 
 }  // namespace ng

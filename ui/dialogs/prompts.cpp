@@ -130,17 +130,17 @@ void QtPrompts::ShowModal(ModalForm form) {
   PaintMainWindow();
   switch (form) {
     case ModalForm::Loader:
-      LoaderDialog(*session_, Parent()).exec();
+      LoaderDialog(*session_, door_, Parent()).exec();
       break;
     case ModalForm::Options: {
       // Before there is a main window it is the first start that asks.
       const auto occasion = mainWindow_ == nullptr ? OptionsDialog::Occasion::FirstStart
                                                    : OptionsDialog::Occasion::Wanted;
-      OptionsDialog(*session_, occasion, Parent()).exec();
+      OptionsDialog(*session_, door_, occasion, Parent()).exec();
       break;
     }
     case ModalForm::SkillLevel:
-      SkillLevelDialog(*session_, Parent()).exec();
+      SkillLevelDialog(*session_, door_, Parent()).exec();
       break;
     case ModalForm::About:
       AboutDialog(Parent()).exec();

@@ -3,14 +3,13 @@
 #include <QBoxLayout>
 #include <QLineEdit>
 #include <QShortcut>
-#include <QSignalBlocker>
 #include <QTextBrowser>
 #include <QTreeWidget>
 #include <span>
 
-#include "app/main_form.h"
+#include "app/help_form.h"
 #include "ui/look/layout_kit.h"
-#include "ui/widgets/list_paint.h"
+#include "ui/wiring/shows.h"
 #include "ui/wiring/text.h"
 
 namespace ng {
@@ -114,64 +113,57 @@ class TopicWriter {
   int rows_ = 0;
 };
 
+class TopicBrowser : public QTextBrowser, public ShowsHelp {
+ public:
+  using QTextBrowser::QTextBrowser;
+
+  void ShowHelp(const HelpForm& help) override {
+    const QString topic = TopicWriter(help).Html();
+    if (shown_ != topic) setHtml(topic);
+    shown_ = topic;
+  }
+
+ private:
+  /// What the browser was last given; it gives back something else.
+  QString shown_;
+};
+
 }  // namespace
 
 HelpWindow::HelpWindow(const Perform& perform, QWidget* parent)
-    : SideWindow(QStringLiteral("frmHelp"), tr("Help"), "frmHelp.Close", perform, parent) {
+    : SideWindow("frmHelp", tr("Help"), perform, parent) {
   setMinimumSize(kLeastSize);
   resize(kSize);
-  filter_ = MakeBox({QStringLiteral("txtFilter"), tr("Find in the help"),
-                     TipWithKey(tr("Show the lines that contain this"), tr("Ctrl+F"))},
-                    kTopicsWidth, this);
-  filter_->setAlignment(Qt::AlignLeft);
-  filter_->setPlaceholderText(tr("Find"));
-  filter_->setClearButtonEnabled(true);
+  auto* filter = MakeBox({QStringLiteral("txtFilter"), tr("Find in the help"),
+                          TipWithKey(tr("Show the lines that contain this"), tr("Ctrl+F"))},
+                         kTopicsWidth, this);
+  filter->setAlignment(Qt::AlignLeft);
+  filter->setPlaceholderText(tr("Find"));
+  filter->setClearButtonEnabled(true);
   topics_ = MakePlainList({QStringLiteral("lstTopics"), tr("Topics"), tr("The topics of the help")},
                           this);
   topics_->setFixedWidth(kTopicsWidth);
-  topic_ = new QTextBrowser(this);
-  topic_->setObjectName(QStringLiteral("txtTopic"));
-  topic_->setAccessibleName(tr("Text of the topic"));
+  auto* topic = new TopicBrowser(this);
+  topic->setObjectName(QStringLiteral("txtTopic"));
+  topic->setAccessibleName(tr("Text of the topic"));
   // Keys and names stay whole in narrow columns.
-  topic_->setWordWrapMode(QTextOption::WordWrap);
-  topic_->document()->setDocumentMargin(kGroupPadding);
-  connect(filter_, &QLineEdit::textEdited, this, [this](const QString& text) {
-    Do({"frmHelp.txtFilter", 0, FromQString(text)});
-  });
-  connect(topics_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
-    if (item != nullptr) Do({"frmHelp.lstTopics_Select", topics_->indexOfTopLevelItem(item)});
-  });
+  topic->setWordWrapMode(QTextOption::WordWrap);
+  topic->document()->setDocumentMargin(kGroupPadding);
   auto* find = new QShortcut(QKeySequence(QKeySequence::Find), this);
-  connect(find, &QShortcut::activated, this, [this] {
-    filter_->setFocus(Qt::ShortcutFocusReason);
-    filter_->selectAll();
+  connect(find, &QShortcut::activated, this, [filter] {
+    filter->setFocus(Qt::ShortcutFocusReason);
+    filter->selectAll();
   });
   auto* left = new QVBoxLayout;
   left->setSpacing(kGroupGap);
-  left->addWidget(filter_);
+  left->addWidget(filter);
   left->addWidget(topics_, 1);
   auto* row = new QHBoxLayout(this);
   SetEdges(*row);
   row->addLayout(left);
-  row->addWidget(topic_, 1);
+  row->addWidget(topic, 1);
 }
 
-void HelpWindow::Paint(const MainForm& form) {
-  const HelpForm& help = form.help;
-  const bool opens = help.open && !isVisible();
-  if (help.open) {
-    const QString filter = ToQString(help.txtFilter);
-    if (filter_->text() != filter) filter_->setText(filter);
-    const QSignalBlocker quiet(*topics_);
-    if (shownTopics_ != help.lstTopics) ShowLines(*topics_, help.lstTopics);
-    shownTopics_ = help.lstTopics;
-    ShowSelection(*topics_, help.lstTopicsIndex);
-    const QString topic = TopicWriter(help).Html();
-    if (shownTopic_ != topic) topic_->setHtml(topic);
-    shownTopic_ = topic;
-  }
-  SetOpen(help.open);
-  if (opens) topics_->setFocus();
-}
+void HelpWindow::Opened() { topics_->setFocus(); }
 
 }  // namespace ng

@@ -2,8 +2,6 @@
 
 #include "ui/side/side_window.h"
 
-class QLineEdit;
-class QTextBrowser;
 class QTreeWidget;
 
 namespace ng {
@@ -14,15 +12,11 @@ class HelpWindow : public SideWindow {
 
  public:
   HelpWindow(const Perform& perform, QWidget* parent);
-  void Paint(const MainForm& form);
 
  private:
-  QLineEdit* filter_;
+  void Opened() override;
+
   QTreeWidget* topics_;
-  QTextBrowser* topic_;
-  std::vector<std::string> shownTopics_;
-  /// What the browser was last given; it gives back something else.
-  QString shownTopic_;
 };
 
 }  // namespace ng

@@ -36,7 +36,7 @@ DamageBar::DamageBar(Track track, QWidget* parent) : QWidget(parent), track_(tra
   Announce();
 }
 
-void DamageBar::setBoxes(int boxes) {
+void DamageBar::ShowLevel(int boxes) {
   const int held = std::clamp(boxes, 0, DamagePanel::kBoxes);
   if (held == boxes_) return;
   boxes_ = held;
