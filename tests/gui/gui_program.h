@@ -5,6 +5,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
@@ -65,11 +66,17 @@ class GuiProgram : private StartupWindows {
   FakeUserSettings userSettings;
   Session session{{files, uniform, prompts, userSettings, {{}, "C:\\tracker"}, {}}};
   Fight& fight = session.main.fight;
-  /// The door of the windows.
-  const Perform door = [this](const Act& act) { session.Do(act); };
+  /// What came to the door, which lets nothing in while nothing is performed.
+  std::vector<Act> acts;
+  bool performing = true;
+  const Perform door = [this](const Act& act) {
+    acts.push_back(act);
+    if (performing) session.Do(act);
+  };
   std::unique_ptr<MainWindow> window;
 
   GuiProgram() {
+    QTest::failOnWarning(QRegularExpression(QStringLiteral("cannot be painted")));
     prompts.Attach(session, door);
     QObject::connect(&messageWatch_, &QTimer::timeout, [] {
       const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());

@@ -112,7 +112,7 @@ void Binder::Paint(const std::function<void(ControlVisitor&)>& walk) {
 }
 
 void Binder::Complain(const char* fault) const {
-  qCritical("%s cannot be painted: %s", qPrintable(window_.objectName()), fault);
+  qWarning("%s cannot be painted: %s", qPrintable(window_.objectName()), fault);
 }
 
 void Binder::IndexNames() {
