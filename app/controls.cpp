@@ -158,7 +158,9 @@ void VisitStatusBar(const Session& session, ControlVisitor& visitor) {
 
 /// Who is displayed, and whose test and dice they are when they are somebody else's.
 std::string WhoRolls(const MainForm& form) {
-  const auto nameOf = [&form](Slot slot) { return form.fight.RecordOf(slot).Name; };
+  const auto nameOf = [&form](Slot slot) -> const std::string& {
+    return form.fight.RecordOf(slot).Name;
+  };
   const Slot shown = form.fight.CurrentPCpointer;
   const Slot tested = form.ngdr.TestOwner();
   const Slot paying = form.ngdr.PoolOwner();

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <clocale>
+#include <exception>
 #include <memory>
 #include <utility>
 
@@ -77,7 +78,13 @@ int Run(QApplication& application, std::function<void(QWidget&)> loaded) {
   if (DesktopIsDark(application)) session.Do({"mnuViewDark"});
   ApplyTheme(application, session.main.darkColours ? Theme::Dark() : Theme::Light());
   RealWindows windows(session, door, prompts, std::move(loaded));
-  if (!Main(session, windows)) return 1;
+  try {
+    if (!Main(session, windows)) return 1;
+  } catch (const std::exception& error) {
+    windows.UnloadSplash();
+    prompts.Message(error.what());
+    return 1;
+  }
   windows.Open(QCoreApplication::arguments().mid(2));
   return QApplication::exec();
 }

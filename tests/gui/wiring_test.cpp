@@ -1,7 +1,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QComboBox>
-#include <QDropEvent>
+#include <QDragEnterEvent>
 #include <QFileSystemModel>
 #include <QLabel>
 #include <QLineEdit>
@@ -351,6 +351,9 @@ void WiringTest::NothingIsDroppedIntoACommandThatAsks() {
   QMimeData files;
   files.setUrls({QUrl::fromLocalFile(NG_SOURCE_DIR "/sample/characters/vex.ng3")});
   InNextDialog([&](QDialog& dialog) {
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, {});
+    QApplication::sendEvent(program_->window.get(), &enter);
+    QVERIFY(!enter.isAccepted());
     QDropEvent drop({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, {});
     QApplication::sendEvent(program_->window.get(), &drop);
     dialog.reject();
