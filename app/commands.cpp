@@ -3,6 +3,7 @@
 #include <array>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "base/runtime_error.h"
 
@@ -23,18 +24,6 @@ void Main(Session& session, const Act&) {
   (session.main.*function)();
 }
 
-/// An edit of a single text box of a panel.
-template <auto panel, auto box>
-void Edit(Session& session, const Act& act) {
-  session.main.Box_Change(session.main.*panel.*box, act.text);
-}
-
-/// An edit of a text box that stands once for each weapon.
-template <PerWeapon<std::string> WeaponPanel::*box>
-void EditWeapon(Session& session, const Act& act) {
-  session.main.WeaponBox_Change((session.main.weapons.*box)[Element(act)], act.text);
-}
-
 Weapon WeaponOf(const Act& act) { return Element(act) == 0 ? Weapon::Primary : Weapon::Secondary; }
 
 template <Sight sight>
@@ -44,7 +33,7 @@ void ClickSight(Session& session, const Act& act) {
 
 template <int rounds>
 void Fire(Session& session, const Act& act) {
-  session.main.firing.Fire(WeaponOf(act), rounds);
+  session.main.Fire(WeaponOf(act), rounds);
 }
 
 template <SkillUse use>
@@ -76,7 +65,7 @@ void Pool(Session& session, const Act&) {
   session.main.ChangePool(box, change);
 }
 
-/// A line of a list was marked.
+/// A line of a list was selected.
 template <SheetList list>
 void Mark(Session& session, const Act& act) {
   session.main.itemInfo.Mark(list, act.index);
@@ -131,31 +120,67 @@ void OpenTestPage(Session& session, const Act& act) {
   session.main.ngdr.tabTest_Click(static_cast<TestPage>(act.index));
 }
 
+constexpr Command Looking(Command command) {
+  command.effect = Effect::Look;
+  return command;
+}
+
+constexpr Command OfFiles(Command command) {
+  command.effect = Effect::Affair;
+  return command;
+}
+
+/// A change by a control that is no menu entry, with what its step is called.
+constexpr Command Step(const char* words, Command command) {
+  command.text = words;
+  return command;
+}
+
+constexpr Command Typing(const char* words, Command command) {
+  command.text = words;
+  command.effect = Effect::Edit;
+  return command;
+}
+
+void ChangeBound(Session& session, const Act& act) { session.main.Bound_Change(act); }
+
+/// The edits of a panel's controls that are bound to fields.
+template <class Panel>
+void AddBound(std::vector<Command>& commands) {
+  for (const BoundControl<Panel>& control : Panel::Bound()) {
+    if (control.edit == nullptr) continue;
+    // A check box is clicked and not typed into.
+    const bool check = std::string_view(control.name).starts_with("chk");
+    const Command edit = {control.name, ChangeBound};
+    commands.push_back(check ? Step(control.words, edit) : Typing(control.words, edit));
+  }
+}
+
 const auto kCommands = std::to_array<Command>({
     {"mnuFileNew", Main<&MainForm::mnuFileNew>, Menu::File, 0, "&New", "Ctrl+Shift+N",
      "Remove the combatants and begin with an empty table", "New", "New"},
     {"mnuFileOpen", Main<&MainForm::mnuFileOpen>, Menu::File, 0, "&Open...", "Ctrl+O",
      "Import characters from their files", "Open", "Open"},
     {"mnuFileLoad", Main<&MainForm::mnuFileLoad>, Menu::File, 1, "&Load State...", "Ctrl+L",
-     "Take up a saved fight"},
-    {"mnuFileSave", Main<&MainForm::mnuFileSave>, Menu::File, 1, "&Save State...", "Ctrl+S",
-     "Save this fight"},
-    {"mnuFileExit", Main<&MainForm::mnuFileExit>, Menu::File, 2, "E&xit", "Ctrl+Q",
-     "Close the tracker"},
+     "Load a saved fight"},
+    OfFiles({"mnuFileSave", Main<&MainForm::mnuFileSave>, Menu::File, 1, "&Save State...", "Ctrl+S",
+             "Save this fight"}),
+    OfFiles({"mnuFileExit", Main<&MainForm::mnuFileExit>, Menu::File, 2, "E&xit", "Ctrl+Q",
+             "Close the tracker"}),
 
     {"mnuTReroll", Main<&MainForm::mnuTReroll>, Menu::Turn, 0, "&Reroll", "Ctrl+R",
      "Roll everybody's initiative and begin a combat turn", "Reroll", "Reroll"},
-    {"mnuTReset", Main<&MainForm::mnuTReset>, Menu::Turn, 0, "Reset to &Top", "Ctrl+T",
+    {"mnuTReset", Main<&MainForm::mnuTReset>, Menu::Turn, 0, "Reset to &top", "Ctrl+T",
      "Begin a combat turn with the initiative as it is", "Reset", "Reset"},
     {"mnuTPrev", Main<&MainForm::mnuTPrev>, Menu::Turn, 1, "&Previous", "F7",
      "Step back to look at earlier actions of this combat turn", "Prev", "Prev"},
     {"mnuTNext", Main<&MainForm::mnuTNext>, Menu::Turn, 1, "&Next", "F8",
      "Step on to the next action", "Next", "Next"},
     {"mnuTClear", Main<&MainForm::mnuTClear>, Menu::Turn, 2, "&Clear All Events", "Ctrl+E",
-     "Forget all grenades and rockets that are still to go off", "ClearFlag", "Clear flag"},
+     "Cancel all pending grenades and rockets", "ClearFlag", "Clear flag"},
 
     {"mnuPDelay", Main<&MainForm::mnuPDelay>, Menu::Combatant, 0, "Toggle &Delay", "Ctrl+D",
-     "Put off this combatant's action, or let it act now", "Delay", "Delay", true},
+     "Delay this combatant's action, or let it act now", "Delay", "Delay", true},
     {"mnuPInactive", Main<&MainForm::mnuPInactive>, Menu::Combatant, 0, "Toggle Active/&Inactive",
      "Ctrl+I", "Take this combatant out of initiative, or back in", "Disable", "Disable", true},
     {"mnuPGrenade", Main<&MainForm::mnuPGrenade>, Menu::Combatant, 1, "&Grenade", "Ctrl+G",
@@ -169,150 +194,163 @@ const auto kCommands = std::to_array<Command>({
     {"mnuPRemove", Main<&MainForm::mnuPRemove>, Menu::Combatant, 2, "De&lete Character", "Ctrl+Del",
      "Remove this combatant from the fight", "Delete", "Delete"},
 
-    {"mnuViewOptions", Main<&MainForm::mnuViewOptions>, Menu::View, 0, "&Options...", "Ctrl+,",
-     "Choose the directories and switches"},
-    {"mnuViewGM", Main<&MainForm::mnuViewGM>, Menu::View, 1, "&Game Master", "Ctrl+J",
-     "Show the game master's list of notes"},
-    {"mnuViewLog", Main<&MainForm::mnuViewLog>, Menu::View, 1, "&Log", "Ctrl+Shift+J",
-     "Show what the log file holds of this and earlier evenings"},
-    {"mnuViewReference", Main<&MainForm::mnuViewReference>, Menu::View, 1, "Re&ference", "Ctrl+F",
-     "Look up an entry of the reference file"},
-    {"mnuViewInfo", Main<&MainForm::mnuViewInfo>, Menu::View, 1, "&Item Information",
-     "Ctrl+Shift+I", "Show every figure of the line that was marked last"},
-    {"ShowRoller", Main<&MainForm::ShowRoller>, Menu::View, 1, "Dice &Roller", "F12",
-     "Show the dice roller"},
-    {"mnuViewStatusBar", Main<&MainForm::mnuViewStatusBar>, Menu::View, 1, "&Status Bar", "Ctrl+/",
-     "Show or hide the status bar", "", "", true},
-    {"mnuViewDark", Main<&MainForm::mnuViewDark>, Menu::View, 1, "&Dark Colours", "Ctrl+Shift+D",
-     "Light or dark colours, until the program closes", "", "", true},
-    {"mnuHelpContents", [](Session& s, const Act& a) { s.main.help.Form_Load(a.text); }, Menu::Help,
-     0, "&Help", "F1", "How a combat turn runs, and all commands and keys"},
-    {"mnuHelpAbout", Main<&MainForm::mnuHelpAbout>, Menu::Help, 1, "&About NGtracker", "Shift+F1",
-     "Which version this is, and what it is built on"},
+    OfFiles({"mnuViewOptions", Main<&MainForm::mnuViewOptions>, Menu::View, 0, "&Options...",
+             "Ctrl+,", "Choose the directories and switches"}),
+    Looking({"mnuViewGM", Main<&MainForm::mnuViewGM>, Menu::View, 1, "&Game Master", "Ctrl+J",
+             "Show the game master's list of notes"}),
+    Looking({"mnuViewLog", Main<&MainForm::mnuViewLog>, Menu::View, 1, "&Log", "Ctrl+Shift+J",
+             "Show the log of this and earlier sessions"}),
+    Looking({"mnuViewReference", Main<&MainForm::mnuViewReference>, Menu::View, 1, "Re&ference",
+             "Ctrl+F", "Look up an entry of the reference file"}),
+    Looking({"mnuViewInfo", Main<&MainForm::mnuViewInfo>, Menu::View, 1, "&Item Information",
+             "Ctrl+Shift+I", "Show all details of the selected item"}),
+    Looking({"ShowRoller", Main<&MainForm::ShowRoller>, Menu::View, 1, "Dice &Roller", "F12",
+             "Show the dice roller"}),
+    Looking({"mnuViewStatusBar", Main<&MainForm::mnuViewStatusBar>, Menu::View, 1, "&Status Bar",
+             "Ctrl+/", "Show or hide the status bar", "", "", true}),
+    Looking({"mnuViewDark", Main<&MainForm::mnuViewDark>, Menu::View, 1, "&Dark Colours",
+             "Ctrl+Shift+D", "Light or dark colours, until the program closes", "", "", true}),
+    Looking({"mnuHelpContents", [](Session& s, const Act& a) { s.main.help.Form_Load(a.text); },
+             Menu::Help, 0, "&Help", "F1", "How a combat turn runs, and all commands and keys"}),
+    Looking({"mnuHelpAbout", Main<&MainForm::mnuHelpAbout>, Menu::Help, 1, "&About NGtracker",
+             "Shift+F1", "Which version this is, and what it is built on"}),
 
-    {"Form_Load", Main<&MainForm::Form_Load>},
-    {"Form_Unload", Main<&MainForm::Form_Unload>},
-    {"MainLeft", KeepPlace<&WindowLayout::MainLeft>},
-    {"MainTop", KeepPlace<&WindowLayout::MainTop>},
-    {"MainWidth", KeepPlace<&WindowLayout::MainWidth>},
-    {"MainHeight", KeepPlace<&WindowLayout::MainHeight>},
-    {"Form_Drop", MainText<&MainForm::Form_Drop>},
-    {"GridX_Click", MainIndexed<&MainForm::GridX_Click>},
-    {"GridX_KeyPress", MainIndexed<&MainForm::GridX_KeyPress>},
-    {"GridX_Roll", [](Session& s, const Act& a) { s.main.GridX_Cell(a.index, 1); }},
-    {"GridX_PM", [](Session& s, const Act& a) { s.main.GridX_Cell(a.index, 2); }},
-    {"GridX_Name", [](Session& s, const Act& a) { s.main.GridX_Cell(a.index, 0); }},
+    Looking({"Form_Load", Main<&MainForm::Form_Load>}),
+    OfFiles({"Form_Unload", Main<&MainForm::Form_Unload>}),
+    Looking({"MainLeft", KeepPlace<&WindowLayout::MainLeft>}),
+    Looking({"MainTop", KeepPlace<&WindowLayout::MainTop>}),
+    Looking({"MainWidth", KeepPlace<&WindowLayout::MainWidth>}),
+    Looking({"MainHeight", KeepPlace<&WindowLayout::MainHeight>}),
+    Looking({"Form_LeftOut", Main<&MainForm::Form_LeftOut>}),
+    Step("open files", {"Form_Drop", MainText<&MainForm::Form_Drop>}),
+    Looking({"GridX_Click", MainIndexed<&MainForm::GridX_Click>}),
+    Typing("typed into the grid", {"GridX_KeyPress", MainIndexed<&MainForm::GridX_KeyPress>}),
+    Step("typing taken back", {"GridX_Restore", Main<&MainForm::GridX_Restore>}),
+    Looking({"GridX_Roll", [](Session& s, const Act& a) { s.main.GridX_Cell(a.index, 1); }}),
+    Looking({"GridX_PM", [](Session& s, const Act& a) { s.main.GridX_Cell(a.index, 2); }}),
+    Looking({"GridX_Name", [](Session& s, const Act& a) { s.main.GridX_Cell(a.index, 0); }}),
 
-    {"optInitMode", MainIndexed<&MainForm::optInitMode>},
-    {"txtRRSLT", MainText<&MainForm::txtRRSLT_Change>},
-    {"txtInit",
-     [](Session& s, const Act& a) { s.main.txtInit_Change(static_cast<int>(Element(a)), a.text); }},
-    {"txtReac",
-     [](Session& s, const Act& a) { s.main.txtReac_Change(static_cast<int>(Element(a)), a.text); }},
-    {"tabMain", MainIndexed<&MainForm::tabMain_Click>},
+    Looking({"lblLogFailure", [](Session& s, const Act&) { s.main.gmLog.FailureSeen(); }}),
+    Looking({"lblJournal", [](Session& s, const Act&) { s.main.lblJournal.clear(); }}),
 
-    {"cmdLDam", Wound<1>},
-    {"cmdMDam", Wound<3>},
-    {"cmdSDam", Wound<6>},
-    {"cmdDDam", Wound<10>},
-    {"cmdIncrease", Wound<1>},
-    {"cmdReduce", Wound<-1>},
-    {"cmdDamZero", [](Session& s, const Act& a) { s.main.cmdDamZero(TrackOf(a)); }},
-    {"txtPainResistance", Edit<&MainForm::damage, &DamagePanel::txtPainResistance>},
-    {"txtShots", EditWeapon<&WeaponPanel::txtShots>},
-    {"txtTBTT", EditWeapon<&WeaponPanel::txtTBTT>},
-    {"txtRC", EditWeapon<&WeaponPanel::txtRC>},
-    {"txtGyro", EditWeapon<&WeaponPanel::txtGyro>},
-    {"chkSmL", ClickSight<Sight::Smartlink>},
-    {"chkLaserSight", ClickSight<Sight::Laser>},
-    {"chkSmtGoggles", ClickSight<Sight::Goggles>},
-    {"chkTwoGuns", Main<&MainForm::chkTwoGuns_Click>},
-    {"optRangeSel", ChooseRange},
-    {"cmdShots1", Fire<1>},
-    {"cmdShots3", Fire<3>},
-    {"cmdShotsFA", [](Session& s, const Act& a) { s.main.firing.FullAuto(WeaponOf(a)); }},
-    {"cmdShotsZ", [](Session& s, const Act& a) { s.main.firing.Reload(WeaponOf(a)); }},
-    {"cmdDisarm", [](Session& s, const Act& a) { s.main.cmdDisarm(WeaponOf(a)); }},
-    {"cmdSetPrim", [](Session& s, const Act&) { s.main.cmdSetWeapon(Weapon::Primary); }},
-    {"cmdSetSecond", [](Session& s, const Act&) { s.main.cmdSetWeapon(Weapon::Secondary); }},
-    {"cmdSkillPrimary", ChooseSkill<SkillUse::Primary>},
-    {"cmdSkillSecondary", ChooseSkill<SkillUse::Secondary>},
-    {"cmdMeleeSkill", ChooseSkill<SkillUse::Unarmed>},
-    {"cmdUnarmed", [](Session& s, const Act&) { s.main.skillTests.Unarmed(); }},
-    {"cmdBody", [](Session& s, const Act&) { s.main.skillTests.BodyTest(); }},
-    {"cmdInfoWeapon", Inform<SheetList::Weapon>},
-    {"cmdInfoArmor", Inform<SheetList::Armor>},
-    {"cmdInfoGear", Inform<SheetList::Gear>},
-    {"lstWeapon_Select", Mark<SheetList::Weapon>},
-    {"lstArmor_Select", Mark<SheetList::Armor>},
-    {"lstGear_Select", Mark<SheetList::Gear>},
-    {"lstActive_Select", Mark<SheetList::Active>},
-    {"lstOther_Select", Mark<SheetList::Other>},
-    {"lstMagic_Select", Mark<SheetList::Magic>},
-    {"lstEdges_Select", Mark<SheetList::Edges>},
-    {"lstAugments_Select", Mark<SheetList::Augments>},
-    {"lstContacts_Select", Mark<SheetList::Contacts>},
-    {"lstRace_Select", Mark<SheetList::Race>},
-    {"txtCP", Edit<&MainForm::pools, &PoolPanel::txtCP>},
-    {"txtSP", Edit<&MainForm::pools, &PoolPanel::txtSP>},
-    {"txtSD", Edit<&MainForm::pools, &PoolPanel::txtSD>},
-    {"txtAS", Edit<&MainForm::pools, &PoolPanel::txtAS>},
-    {"txtKP", Edit<&MainForm::pools, &PoolPanel::txtKP>},
+    Step("initiative mode", {"optInitMode", MainIndexed<&MainForm::optInitMode>}),
+    Typing("roll", {"txtRRSLT", MainText<&MainForm::txtRRSLT_Change>}),
+    Typing("initiative dice",
+           {"txtInit",
+            [](Session& s,
+               const Act& a) { s.main.txtInit_Change(static_cast<int>(Element(a)), a.text); }}),
+    Typing("reaction",
+           {"txtReac",
+            [](Session& s,
+               const Act& a) { s.main.txtReac_Change(static_cast<int>(Element(a)), a.text); }}),
+    Looking({"tabMain", MainIndexed<&MainForm::tabMain_Click>}),
 
-    {"cmdCPplus", [](Session& s, const Act&) { s.main.ChangeCombatPool(IncPool); }},
-    {"cmdCPnegative", [](Session& s, const Act&) { s.main.ChangeCombatPool(DecPool); }},
-    {"cmdSPplus", Pool<&PoolPanel::txtSP, IncPool>},
-    {"cmdSPnegative", Pool<&PoolPanel::txtSP, DecPool>},
-    {"cmdSDplus", Main<&MainForm::cmdSDplus>},
-    {"cmdSDnegative", Main<&MainForm::cmdSDnegative>},
+    Step("{track} light wound", {"cmdLDam", Wound<1>}),
+    Step("{track} moderate wound", {"cmdMDam", Wound<3>}),
+    Step("{track} serious wound", {"cmdSDam", Wound<6>}),
+    Step("{track} deadly wound", {"cmdDDam", Wound<10>}),
+    Step("{track} one box more", {"cmdIncrease", Wound<1>}),
+    Step("{track} one box less", {"cmdReduce", Wound<-1>}),
+    Step("{track} track cleared",
+         {"cmdDamZero", [](Session& s, const Act& a) { s.main.cmdDamZero(TrackOf(a)); }}),
+    Step("{hand} smartlink", {"chkSmL", ClickSight<Sight::Smartlink>}),
+    Step("{hand} laser sight", {"chkLaserSight", ClickSight<Sight::Laser>}),
+    Step("{hand} smart goggles", {"chkSmtGoggles", ClickSight<Sight::Goggles>}),
+    Step("range", {"optRangeSel", ChooseRange}),
+    Step("{hand} weapon, 1 round", {"cmdShots1", Fire<1>}),
+    Step("{hand} weapon, 3 rounds", {"cmdShots3", Fire<3>}),
+    Step("{hand} weapon, full auto",
+         {"cmdShotsFA", [](Session& s, const Act& a) { s.main.FullAuto(WeaponOf(a)); }}),
+    Step("{hand} weapon reloaded",
+         {"cmdShotsZ", [](Session& s, const Act& a) { s.main.firing.Reload(WeaponOf(a)); }}),
+    Step("{hand} weapon put away",
+         {"cmdDisarm", [](Session& s, const Act& a) { s.main.cmdDisarm(WeaponOf(a)); }}),
+    Step("primary weapon",
+         {"cmdSetPrim", [](Session& s, const Act&) { s.main.cmdSetWeapon(Weapon::Primary); }}),
+    Step("secondary weapon",
+         {"cmdSetSecond", [](Session& s, const Act&) { s.main.cmdSetWeapon(Weapon::Secondary); }}),
+    Step("primary firing skill", {"cmdSkillPrimary", ChooseSkill<SkillUse::Primary>}),
+    Step("secondary firing skill", {"cmdSkillSecondary", ChooseSkill<SkillUse::Secondary>}),
+    Step("unarmed skill", {"cmdMeleeSkill", ChooseSkill<SkillUse::Unarmed>}),
+    Step("unarmed test",
+         {"cmdUnarmed", [](Session& s, const Act&) { s.main.skillTests.Unarmed(); }}),
+    Step("body test", {"cmdBody", [](Session& s, const Act&) { s.main.skillTests.BodyTest(); }}),
+    Looking({"cmdInfoWeapon", Inform<SheetList::Weapon>}),
+    Looking({"cmdInfoArmor", Inform<SheetList::Armor>}),
+    Looking({"cmdInfoGear", Inform<SheetList::Gear>}),
+    Looking({"lstWeapon_Select", Mark<SheetList::Weapon>}),
+    Looking({"lstArmor_Select", Mark<SheetList::Armor>}),
+    Looking({"lstGear_Select", Mark<SheetList::Gear>}),
+    Looking({"lstActive_Select", Mark<SheetList::Active>}),
+    Looking({"lstOther_Select", Mark<SheetList::Other>}),
+    Looking({"lstMagic_Select", Mark<SheetList::Magic>}),
+    Looking({"lstEdges_Select", Mark<SheetList::Edges>}),
+    Looking({"lstAugments_Select", Mark<SheetList::Augments>}),
+    Looking({"lstContacts_Select", Mark<SheetList::Contacts>}),
+    Looking({"lstRace_Select", Mark<SheetList::Race>}),
+
+    Step("combat pool, a die more",
+         {"cmdCPplus", [](Session& s, const Act&) { s.main.ChangeCombatPool(IncPool); }}),
+    Step("combat pool, a die less",
+         {"cmdCPnegative", [](Session& s, const Act&) { s.main.ChangeCombatPool(DecPool); }}),
+    Step("spell pool, a die more", {"cmdSPplus", Pool<&PoolPanel::txtSP, IncPool>}),
+    Step("spell pool, a die less", {"cmdSPnegative", Pool<&PoolPanel::txtSP, DecPool>}),
+    Step("a die set aside", {"cmdSDplus", Main<&MainForm::cmdSDplus>}),
+    Step("a die taken back", {"cmdSDnegative", Main<&MainForm::cmdSDnegative>}),
     // The plus button of the astral pool bears another name than its box; both names are kept.
-    {"cmdADplus", Pool<&PoolPanel::txtAS, IncPool>},
-    {"cmdASnegative", Pool<&PoolPanel::txtAS, DecPool>},
-    {"cmdKPplus", Pool<&PoolPanel::txtKP, IncPool>},
-    {"cmdKPnegative", Pool<&PoolPanel::txtKP, DecPool>},
+    Step("astral pool, a die more", {"cmdADplus", Pool<&PoolPanel::txtAS, IncPool>}),
+    Step("astral pool, a die less", {"cmdASnegative", Pool<&PoolPanel::txtAS, DecPool>}),
+    Step("karma pool, a die more", {"cmdKPplus", Pool<&PoolPanel::txtKP, IncPool>}),
+    Step("karma pool, a die less", {"cmdKPnegative", Pool<&PoolPanel::txtKP, DecPool>}),
 
-    {"lstArmor_Check", MainIndexed<&MainForm::lstArmor_Check>},
-    {"lstWeapon_Check", MainIndexed<&MainForm::lstWeapon_Check>},
-    {"lstGear_Check", MainIndexed<&MainForm::lstGear_Check>},
-    {"cmdNoteLoad", Main<&MainForm::cmdNoteLoad>},
-    {"cmdNoteSave", Main<&MainForm::cmdNoteSave>},
-    {"txtNoteFileName", MainText<&MainForm::txtNoteFileName_Change>},
-    {"txtNotes", MainText<&MainForm::txtNotes_Change>},
+    Step("worn armour", {"lstArmor_Check", MainIndexed<&MainForm::lstArmor_Check>}),
+    Step("carried weapons", {"lstWeapon_Check", MainIndexed<&MainForm::lstWeapon_Check>}),
+    Step("carried gear", {"lstGear_Check", MainIndexed<&MainForm::lstGear_Check>}),
+    Step("note loaded", {"cmdNoteLoad", Main<&MainForm::cmdNoteLoad>}),
+    OfFiles({"cmdNoteSave", Main<&MainForm::cmdNoteSave>}),
+    Typing("note file", {"txtNoteFileName", MainText<&MainForm::txtNoteFileName_Change>}),
+    Typing("note", {"txtNotes", MainText<&MainForm::txtNotes_Change>}),
 
-    {"ngdr.Form_Load", LoadRoller},
-    {"ngdr.tabTest", OpenTestPage},
-    {"ngdr.cmdRoll", [](Session& s, const Act&) { s.main.ngdr.cmdRoll(); }},
-    {"ngdr.cmdDicePlusMinus", Roller<&DiceRoller::cmdDicePlusMinus>},
-    {"ngdr.cmdCPplusMinus", Roller<&DiceRoller::cmdCPplusMinus>},
-    {"ngdr.cmdZeroAll", [](Session& s, const Act&) { s.main.ngdr.cmdZeroAll(); }},
-    {"ngdr.cmbVisability", Roller<&DiceRoller::cmbVisability_Click>},
-    {"ngdr.cmbVisability2", Roller<&DiceRoller::cmbVisability2_Click>},
-    {"ngdr.cmbAttackerMove", Roller<&DiceRoller::cmbAttackerMove_Click>},
-    {"ngdr.txtRVar", [](Session& s, const Act& a) { s.main.ngdr.txtRVar_Change(a.index, a.text); }},
-    {"ngdr.txtRVar_Clear", Roller<&DiceRoller::ClearBox>},
-    {"ngdr.txtNumDice", RollerBox<&DiceRoller::txtNumDice_Change>},
-    {"ngdr.txtTargetNum", RollerBox<&DiceRoller::txtTargetNum_Change>},
-    {"ngdr.txtCPx", RollerBox<&DiceRoller::txtCPx_Change>},
-    {"ngdr.txtRangeTargetNumber", RollerBox<&DiceRoller::txtRangeTargetNumber_Change>},
-    {"ngdr.txtMeleeNumber", RollerBox<&DiceRoller::txtMeleeNumber_Change>},
-    {"ngdr.txtLastSuccesses",
-     [](Session& s, const Act& a) { s.main.ngdr.txtLastSuccesses = a.text; }},
-    {"ngdr.Hide", [](Session& s, const Act&) { s.main.ngdr.visible = false; }},
-    {"frmGM.cmdAddNote", Main<&MainForm::cmdAddNote>},
-    {"frmGM.cmdViewLog", Main<&MainForm::mnuViewLog>},
-    {"frmGM.Close", [](Session& s, const Act&) { s.main.frmGMOpen = false; }},
-    {"frmDisplay.cmdClose", [](Session& s, const Act&) { s.main.logViewer.cmdClose(); }},
-    {"frmReference.txtFilter",
-     [](Session& s, const Act& a) { s.main.reference.txtFilter_Change(a.text); }},
-    {"frmReference.lstNames_Select",
-     [](Session& s, const Act& a) { s.main.reference.lstNames_Select(a.index); }},
-    {"frmReference.Close", [](Session& s, const Act&) { s.main.reference.open = false; }},
-    {"frmHelp.txtFilter", [](Session& s, const Act& a) { s.main.help.txtFilter_Change(a.text); }},
-    {"frmHelp.lstTopics_Select",
-     [](Session& s, const Act& a) { s.main.help.lstTopics_Select(a.index); }},
-    {"frmHelp.Close", [](Session& s, const Act&) { s.main.help.open = false; }},
+    Looking({"ngdr.Form_Load", LoadRoller}),
+    Step("new test", {"ngdr.tabTest", OpenTestPage}),
+    Step("test rolled", {"ngdr.cmdRoll", [](Session& s, const Act&) { s.main.ngdr.cmdRoll(); }}),
+    Step("dice of the test", {"ngdr.cmdDicePlusMinus", Roller<&DiceRoller::cmdDicePlusMinus>}),
+    Step("pool dice of the test", {"ngdr.cmdCPplusMinus", Roller<&DiceRoller::cmdCPplusMinus>}),
+    Step("test modifiers cleared",
+         {"ngdr.cmdZeroAll", [](Session& s, const Act&) { s.main.ngdr.cmdZeroAll(); }}),
+    Step("visibility", {"ngdr.cmbVisability", Roller<&DiceRoller::cmbVisability_Click>}),
+    Step("visibility", {"ngdr.cmbVisability2", Roller<&DiceRoller::cmbVisability2_Click>}),
+    Step("attacker movement", {"ngdr.cmbAttackerMove", Roller<&DiceRoller::cmbAttackerMove_Click>}),
+    Typing("test modifier",
+           {"ngdr.txtRVar",
+            [](Session& s, const Act& a) { s.main.ngdr.txtRVar_Change(a.index, a.text); }}),
+    Step("test modifier cleared", {"ngdr.txtRVar_Clear", Roller<&DiceRoller::ClearBox>}),
+    Typing("dice of the test", {"ngdr.txtNumDice", RollerBox<&DiceRoller::txtNumDice_Change>}),
+    Typing("target number", {"ngdr.txtTargetNum", RollerBox<&DiceRoller::txtTargetNum_Change>}),
+    Typing("pool dice of the test", {"ngdr.txtCPx", RollerBox<&DiceRoller::txtCPx_Change>}),
+    Typing("base number",
+           {"ngdr.txtRangeTargetNumber", RollerBox<&DiceRoller::txtRangeTargetNumber_Change>}),
+    Typing("base number", {"ngdr.txtMeleeNumber", RollerBox<&DiceRoller::txtMeleeNumber_Change>}),
+    Typing("last successes",
+           {"ngdr.txtLastSuccesses",
+            [](Session& s, const Act& a) { s.main.ngdr.txtLastSuccesses = a.text; }}),
+    Looking({"ngdr.Hide", [](Session& s, const Act&) { s.main.ngdr.visible = false; }}),
+    Step("game master's note", {"frmGM.cmdAddNote", Main<&MainForm::cmdAddNote>}),
+    Looking({"frmGM.cmdViewLog", Main<&MainForm::mnuViewLog>}),
+    Looking({"frmGM.Close", [](Session& s, const Act&) { s.main.frmGMOpen = false; }}),
+    Looking({"frmDisplay.cmdClose", [](Session& s, const Act&) { s.main.logViewer.cmdClose(); }}),
+    Looking({"frmReference.txtFilter",
+             [](Session& s, const Act& a) { s.main.reference.txtFilter_Change(a.text); }}),
+    Looking({"frmReference.lstNames_Select",
+             [](Session& s, const Act& a) { s.main.reference.lstNames_Select(a.index); }}),
+    Looking({"frmReference.Close", [](Session& s, const Act&) { s.main.reference.open = false; }}),
+    Looking({"frmHelp.txtFilter",
+             [](Session& s, const Act& a) { s.main.help.txtFilter_Change(a.text); }}),
+    Looking({"frmHelp.lstTopics_Select",
+             [](Session& s, const Act& a) { s.main.help.lstTopics_Select(a.index); }}),
+    Looking({"frmHelp.Close", [](Session& s, const Act&) { s.main.help.open = false; }}),
 
-    {"frmInfo.Close", [](Session& s, const Act&) { s.main.itemInfo.open = false; }},
+    Looking({"frmInfo.Close", [](Session& s, const Act&) { s.main.itemInfo.open = false; }}),
 
     {"frmSelSkillLevel.cmdSkillSelect",
      [](Session& s, const Act& a) { s.main.skillLevel.cmdSkillSelect_Click(a.index); }},
@@ -343,15 +381,32 @@ constexpr auto kToolbarKeys = std::to_array<const char*>(
 
 }  // namespace
 
-std::span<const Command> Commands() { return kCommands; }
+std::string PlainWords(std::string_view text) {
+  std::string plain;
+  for (const char c : text) {
+    if (c != '&' && c != '.') plain += c;
+  }
+  return plain;
+}
+
+std::span<const Command> Commands() {
+  static const std::vector<Command> all = [] {
+    std::vector<Command> commands(kCommands.begin(), kCommands.end());
+    AddBound<DamagePanel>(commands);
+    AddBound<WeaponPanel>(commands);
+    AddBound<PoolPanel>(commands);
+    return commands;
+  }();
+  return all;
+}
 
 std::span<const char* const> ToolbarKeys() { return kToolbarKeys; }
 
 const Command* FindCommand(std::string_view name) {
   static const auto byName = [] {
     std::map<std::string, const Command*, std::less<>> map;
-    for (const Command& command : kCommands) map.emplace(command.name, &command);
-    static constexpr Command kCaption{"ngdr.Caption", ClickCaption};
+    for (const Command& command : Commands()) map.emplace(command.name, &command);
+    static constexpr Command kCaption = Step("test modifier", {"ngdr.Caption", ClickCaption});
     for (const Caption& caption : Captions()) {
       map.emplace(std::string(kRollerPrefix) + caption.control, &kCaption);
     }

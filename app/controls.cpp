@@ -1,5 +1,6 @@
 #include "app/controls.h"
 
+#include <algorithm>
 #include <iterator>
 #include <utility>
 
@@ -16,9 +17,20 @@ void VisitTexts(ControlVisitor& visitor, const char* name, const Texts& texts) {
   for (const std::string& text : texts) visitor.Text({name, index++}, text);
 }
 
-void VisitChecks(ControlVisitor& visitor, const char* name, const PerWeapon<bool>& checks) {
-  int index = 0;
-  for (const bool checked : checks) visitor.Check({name, index++}, checked);
+/// The controls of a panel that are bound to fields.
+template <class Panel>
+void VisitBound(ControlVisitor& visitor, const Panel& panel) {
+  for (const BoundControl<Panel>& control : Panel::Bound()) {
+    for (int element = 0; element < std::max(control.elements, 1); ++element) {
+      const ControlName name{control.name, control.elements > 0 ? element : ControlName::kSingle};
+      const BoundValue value = control.shown(panel, static_cast<std::size_t>(element));
+      if (const bool* checked = std::get_if<bool>(&value)) {
+        visitor.Check(name, *checked);
+      } else {
+        visitor.Text(name, *std::get<const std::string*>(value));
+      }
+    }
+  }
 }
 
 void VisitHeader(const MainForm& form, ControlVisitor& visitor) {
@@ -29,7 +41,7 @@ void VisitHeader(const MainForm& form, ControlVisitor& visitor) {
   visitor.Text({"lblNameY"}, header.lblNameY);
   visitor.Text({"lblNameZ"}, header.lblNameZ);
   visitor.Text({"lblRace2"}, header.lblRace2);
-  visitor.Text({"lblTurn"}, form.TurnBadge());
+  visitor.Turn({"lblTurn"}, form.TurnBadge());
   visitor.Text({"txtRRSLT"}, header.txtRRSLT);
   visitor.Text({"lblFRSLT"}, header.lblFRSLT);
   VisitTexts(visitor, "txtInit", header.txtInit);
@@ -47,7 +59,7 @@ void VisitCombatPage(const MainForm& form, ControlVisitor& visitor) {
   visitor.Text({"lblStun"}, damage.lblStun);
   visitor.Text({"lblOverDamage"}, damage.lblOverDamage);
   visitor.Text({"lblDamMod"}, damage.lblDamMod);
-  visitor.Text({"txtPainResistance"}, damage.txtPainResistance);
+  VisitBound(visitor, damage);
 
   const WeaponPanel& weapons = form.weapons;
   visitor.Text({"lblPrimary"}, weapons.lblPrimary);
@@ -59,15 +71,7 @@ void VisitCombatPage(const MainForm& form, ControlVisitor& visitor) {
   VisitTexts(visitor, "lblSRng", weapons.lblSRng);
   visitor.Choice({"optRangeSel", 0}, weapons.optRangeSel[0]);
   visitor.Choice({"optRangeSel", 1, static_cast<int>(kRanges)}, weapons.optRangeSel[1]);
-  VisitTexts(visitor, "txtShots", weapons.txtShots);
-  VisitTexts(visitor, "txtTBTT", weapons.txtTBTT);
-  VisitTexts(visitor, "txtRC", weapons.txtRC);
-  VisitTexts(visitor, "txtGyro", weapons.txtGyro);
-  VisitTexts(visitor, "txtURC", weapons.txtURC);
-  VisitChecks(visitor, "chkSmL", weapons.chkSmL);
-  VisitChecks(visitor, "chkLaserSight", weapons.chkLaserSight);
-  VisitChecks(visitor, "chkSmtGoggles", weapons.chkSmtGoggles);
-  visitor.Check({"chkTwoGuns"}, weapons.chkTwoGuns);
+  VisitBound(visitor, weapons);
   visitor.Text({"lblWPrim"}, weapons.lblWPrim);
   visitor.Text({"lblWSec"}, weapons.lblWSec);
   visitor.Text({"lblTNMod"}, weapons.lblTNMod);
@@ -89,12 +93,7 @@ void VisitSkillsAndPools(const MainForm& form, ControlVisitor& visitor) {
   VisitSkill(visitor, "lblSkillSecondary", "lblSkillSecondaryLevel", record.SkillSecondaryName,
              record.SkillSecondaryValue);
 
-  const PoolPanel& pools = form.pools;
-  visitor.Text({"txtCP"}, pools.txtCP);
-  visitor.Text({"txtSP"}, pools.txtSP);
-  visitor.Text({"txtSD"}, pools.txtSD);
-  visitor.Text({"txtAS"}, pools.txtAS);
-  visitor.Text({"txtKP"}, pools.txtKP);
+  VisitBound(visitor, form.pools);
   visitor.List({"lstActive"}, form.sheet.lstActive);
   visitor.Text({"lblSkill"}, form.skillTests.lblSkill);
 }
@@ -130,8 +129,8 @@ void VisitSheet(const MainForm& form, ControlVisitor& visitor) {
   visitor.Text({"txtNoteFileName"}, form.txtNoteFileName);
 }
 
-/// The lines marked in the lists of the pages.
-void VisitMarks(const InfoForm& info, ControlVisitor& visitor) {
+/// The lines selected in the lists of the pages.
+void VisitSelections(const InfoForm& info, ControlVisitor& visitor) {
   static constexpr std::pair<const char*, SheetList> kLists[] = {
       {"lstWeapon", SheetList::Weapon},     {"lstArmor", SheetList::Armor},
       {"lstGear", SheetList::Gear},         {"lstActive", SheetList::Active},
@@ -147,10 +146,12 @@ void VisitStatusBar(const Session& session, ControlVisitor& visitor) {
   const int combatants = form.GridX.RowCount();
   const Integer pass = form.fight.PhaseCnt;
   visitor.Text({"lblStatus"}, form.statusMessage);
+  visitor.Text({"lblLogFailure"}, form.gmLog.lblLogFailure());
+  visitor.Text({"lblJournal"}, form.lblJournal);
   visitor.Text({"lblCombatants"},
                PlainText(combatants) + (combatants == 1 ? " combatant" : " combatants"));
   visitor.Text({"lblCombatTurn"}, "Combat turn " + PlainText(form.fight.RoundCount));
-  visitor.Text({"lblPass"}, pass > Sequencer::kLastPass ? "Turn over" : "Pass " + PlainText(pass));
+  visitor.Text({"lblPass"}, pass > kLastPass ? "Turn over" : "Pass " + PlainText(pass));
   visitor.Text({"lblRoller"},
                session.environment.settings.DisableNGDR ? "Roller off" : "Roller on");
   visitor.Check({"statusBar"}, form.statusBarVisible);
@@ -178,12 +179,12 @@ std::string WhoRolls(const MainForm& form) {
 void VisitRollerControls(const Session& session, ControlVisitor& visitor) {
   const MainForm& form = session.main;
   const DiceRoller& roller = form.ngdr;
-  const PlayerRecord& record = form.fight.RecordOf(form.fight.CurrentPCpointer);
+  const PlayerRecord& record = form.fight.RecordOf(roller.Tester());
   visitor.Text({"lblName"}, WhoRolls(form));
   visitor.Text({"lblSkill"}, std::string(Piece(roller.lblSkill, '\t', 0)));
   visitor.Text({"lblDamageCode"}, roller.DamageCode);
   visitor.Text({"lblBulletCount"}, PlainText(roller.BulletCount));
-  visitor.Text({"lblBody"}, roller.Body);
+  visitor.Text({"lblBody"}, roller.BodyOfTest());
   visitor.Text({"lblArmour"}, PlainText(record.ArmorBAL) + " / " + PlainText(record.ArmorIMP));
   visitor.Choice({"tabTest"}, static_cast<int>(roller.tabTest));
   visitor.Text({"lblBase"}, roller.BaseCaption());
@@ -221,7 +222,7 @@ void VisitControls(const Session& session, ControlVisitor& visitor) {
   visitor.Check({"mnuPInactive"}, form.actions.inactiveChecked);
   visitor.Check({"mnuViewStatusBar"}, form.statusBarVisible);
   visitor.Check({"mnuViewDark"}, form.darkColours);
-  VisitMarks(form.itemInfo, visitor);
+  VisitSelections(form.itemInfo, visitor);
   VisitStatusBar(session, visitor);
 }
 

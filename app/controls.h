@@ -6,10 +6,10 @@
 #include "base/integer.h"
 #include "import/character_sheet.h"
 #include "tracker/grid.h"
+#include "tracker/turn_status.h"
 
 namespace ng {
 
-class HelpForm;
 class Session;
 
 /// A control by its name, with its index where it is an element of a control array.
@@ -31,7 +31,7 @@ struct ControlName {
 class ControlVisitor {
  public:
   virtual ~ControlVisitor() = default;
-  /// Labels and text boxes.
+  /// Labels, text boxes, and buttons whose words change.
   virtual void Text(ControlName control, const std::string& text) = 0;
   /// Check boxes, menu entries with a mark, and what is shown or hidden as a whole.
   virtual void Check(ControlName control, bool checked) = 0;
@@ -43,10 +43,10 @@ class ControlVisitor {
   virtual void List(ControlName control, const std::vector<std::string>& lines) = 0;
   /// List boxes of which every line has a mark of its own.
   virtual void CheckList(ControlName control, const std::vector<CarriedLine>& lines) = 0;
+  /// The badge that tells where a combatant stands in the turn.
+  virtual void Turn(ControlName control, TurnState state) = 0;
   /// The grid, with the row of the displayed combatant, 0 for none.
   virtual void Grid(ControlName control, const InitiativeGrid& grid, int shownRow) = 0;
-  /// The topic that the help shows.
-  virtual void Help(ControlName control, const HelpForm& help) = 0;
 };
 
 // What the two large windows show; app/form_windows tells of all windows.

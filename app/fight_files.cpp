@@ -14,13 +14,13 @@ namespace {
 constexpr const char* kStateFilter = "State File (*.ngt)|*.ngt";
 constexpr const char* kNoteFilter = "Text Files (*.txt)|*.txt";
 
-/// What a look at somebody else changes is no change of the fight.
+/// Displaying somebody else is no change of the fight.
 Fight WithoutLooks(const Fight& fight) {
   Fight plain = fight;
   plain.CurrentPCpointer = 0;
   for (PlayerRecord& record : plain.Players) {
     record.lastTab = 0;
-    // Worked out anew whenever the combatant is displayed.
+    // Calculated again whenever the combatant is displayed.
     record.URCPrim.clear();
     record.URCSec.clear();
   }
@@ -67,9 +67,10 @@ SortedFiles Sorted(const std::vector<std::string>& paths) {
   return sorted;
 }
 
-/// The file's name alone where it lies in the character directory, so that it counts as the same
+/// The file's name alone where it is in the character directory, so that it counts as the same
 /// file that the Open dialog finds there.
-std::string NameIn(std::string_view directory, const std::string& path) {
+std::string NameIn(const std::string& characterDirectory, const std::string& path) {
+  std::string_view directory = characterDirectory;
   while (!directory.empty() && HasSeparator(directory.substr(directory.size() - 1))) {
     directory.remove_suffix(1);
   }
@@ -81,11 +82,17 @@ std::string NameIn(std::string_view directory, const std::string& path) {
   };
   const bool inside =
       same(path.substr(0, length), directory) && HasSeparator(path.substr(length, 1));
-  return inside ? path.substr(length + 1) : path;
+  return inside ? ImportName(characterDirectory, path.substr(length + 1)) : path;
 }
 
 ImportTarget TargetOf(MainForm& form, Environment& environment) {
   return {environment.files, environment.settings, form.gearTable, form.fight, form.characters};
+}
+
+/// Whether the combatant's character file could be read.
+bool WasRead(const MainForm& form, Slot slot) {
+  const CharacterEntry* entry = form.characters.Of(form.fight.Players[slot]);
+  return entry != nullptr && !entry->unread;
 }
 
 /// A load that is under way, with the sheets that it has imported so far.
@@ -96,9 +103,9 @@ class Restoring : public StateFileHost {
         environment_(environment),
         progress_(environment.prompts, "Restoring the fight", combatants) {}
 
-  void ImportCharacter(const std::string& fileName) override {
+  bool ImportCharacter(const std::string& fileName) override {
     progress_.Step();
-    LoadCharacterFile(TargetOf(form_, environment_), sheets_, fileName);
+    return WasRead(form_, LoadCharacterFile(TargetOf(form_, environment_), sheets_, fileName));
   }
 
   std::string ShowNote(const std::string& noteFileName) override {
@@ -117,16 +124,17 @@ class Restoring : public StateFileHost {
 
 void FightFiles::ImportCharacters(const std::vector<std::string>& names) {
   Integer imported;
+  std::vector<std::string> unread;
   const auto finish = [&] {
-    form_.fight.CountPlayers();
     form_.GridX.RefreshGrid();
     form_.statusMessage = Counted(imported, "character") + " imported";
+    if (!unread.empty()) form_.statusMessage += "; could not be read: " + Joined(unread);
   };
   try {
     Progress progress(environment_.prompts, "Importing characters", static_cast<int>(names.size()));
     for (const std::string& name : names) {
       progress.Step();
-      ImportOne(name);
+      if (!ImportOne(name)) unread.push_back(name);
       imported += 1;
     }
   } catch (const RuntimeError&) {
@@ -137,10 +145,12 @@ void FightFiles::ImportCharacters(const std::vector<std::string>& names) {
   if (imported > 0) finish();
 }
 
-void FightFiles::ImportOne(const std::string& name) {
+bool FightFiles::ImportOne(const std::string& name) {
   form_.StoreSheet();
-  form_.XFerPC(LoadCharacterFile(TargetOf(form_, environment_), name));
-  form_.RecalcArmor();
+  const Slot slot = LoadCharacterFile(TargetOf(form_, environment_), name);
+  form_.XFerPC(slot);
+  form_.ShowDerivedArmour();
+  return WasRead(form_, slot);
 }
 
 void FightFiles::OpenFiles(const std::vector<std::string>& paths) {
@@ -149,14 +159,14 @@ void FightFiles::OpenFiles(const std::vector<std::string>& paths) {
     environment_.prompts.Message("Only one state file can be opened at a time");
     return;
   }
-  if (!files.states.empty()) LoadState(files.states.front());
+  if (!files.states.empty() && !LoadState(files.states.front())) return;
   std::vector<std::string> names;
   for (const std::string& path : files.characters) {
     names.push_back(NameIn(environment_.settings.NG3Dir, path));
   }
   ImportCharacters(names);
   if (!files.others.empty()) {
-    form_.statusMessage = "Neither a character nor a state file: " + files.others.front();
+    form_.statusMessage = "Not a character or state file: " + files.others.front();
   }
 }
 
@@ -165,18 +175,19 @@ bool FightFiles::SaveState() {
       {"Save State File", kStateFilter, environment_.location.directory, "ngt"});
   if (!path || path->empty()) return false;
   form_.StoreSheet();
+  form_.fight.Recount();
   environment_.files.Replace(*path, StateFileText(form_.fight));
-  saved_ = form_.fight;
+  onDisk_ = {form_.fight, *path};
   form_.statusMessage = "Fight saved";
   const std::string leftOut = Joined(NamesLeftOut(form_.fight));
   if (!leftOut.empty()) {
-    form_.statusMessage += "; beyond slot " + PlainText(form_.fight.NumPlayers) +
-                           " and so not in the file: " + leftOut;
+    form_.statusMessage +=
+        ". Not saved (beyond slot " + PlainText(form_.fight.NumPlayers) + "): " + leftOut;
   }
   // The file names the note files and holds no notes.
   const std::string unfiled = Joined(NamesWithUnfiledNotes(form_.fight));
   if (!unfiled.empty()) {
-    form_.statusMessage += "; notes without a file of their own are not in it: " + unfiled;
+    form_.statusMessage += ". Notes not saved (no note file): " + unfiled;
   }
   return true;
 }
@@ -187,26 +198,37 @@ void FightFiles::LoadState() {
   if (path && !path->empty()) LoadState(*path);
 }
 
-void FightFiles::LoadState(const std::string& path) {
+bool FightFiles::LoadState(const std::string& path) {
   const ProfileFile file(environment_.files.ReadWhole(path));
+  if (!IsStateFile(file)) {
+    environment_.prompts.Message("Not a state file\r\n" + path);
+    return false;
+  }
   form_.StoreSheet();
+  form_.ngdr.EndTest();
+  std::vector<std::string> withoutFile;
   try {
     Restoring host(form_, environment_, CombatantsIn(file));
-    ReadStateFile(file, form_.fight, host);
+    withoutFile = ReadStateFile(file, form_.fight, host);
   } catch (const RuntimeError&) {
     // Nothing of the sheet shown may be written over what was read.
     form_.ShowRestored(form_.fight.CurrentPCpointer);
     throw;
   }
-  form_.ShowRestored(form_.fight.CountPlayers());
+  form_.ShowRestored(Slot::From(form_.fight.CountPlayers()));
   const OrderPosition turn = form_.fight.LTurn;
   form_.sequencer.Reset();
   form_.sequencer.TakeUpTurn(turn);
-  saved_ = form_.fight;
-  form_.statusMessage = "Fight of " + Counted(form_.fight.NumPlayers, "combatant") + " restored";
+  onDisk_ = {form_.fight, path};
+  form_.statusMessage =
+      withoutFile.empty() ? "Fight of " + Counted(form_.fight.NumPlayers, "combatant") + " restored"
+                          : "Restored without the character files of: " + Joined(withoutFile);
+  return true;
 }
 
-bool FightFiles::Changed() const { return WithoutLooks(form_.fight) != WithoutLooks(saved_); }
+bool FightFiles::Changed() const {
+  return WithoutLooks(form_.fight) != WithoutLooks(onDisk_.fight);
+}
 
 void FightFiles::NameNoteFile(const std::string& path) {
   form_.txtNoteFileName = path;

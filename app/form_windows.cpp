@@ -45,7 +45,7 @@ void VisitHelp(const Session& session, ControlVisitor& visitor) {
   visitor.Text({"txtFilter"}, help.txtFilter);
   visitor.List({"lstTopics"}, help.lstTopics);
   visitor.Choice({"lstTopics"}, help.lstTopicsIndex);
-  visitor.Help({"txtTopic"}, help);
+  visitor.Text({"txtTopic"}, help.txtTopic);
 }
 
 void VisitLoader(const Session& session, ControlVisitor& visitor) {
@@ -55,6 +55,7 @@ void VisitLoader(const Session& session, ControlVisitor& visitor) {
   std::vector<CarriedLine> files;
   for (const LoaderForm::File& file : loader.filesXML) files.push_back({file.name, file.selected});
   visitor.CheckList({"filesXML"}, files);
+  visitor.Text({"lblUnlisted"}, loader.lblUnlisted);
 }
 
 void VisitOptions(const Session& session, ControlVisitor& visitor) {

@@ -8,46 +8,55 @@
 namespace ng {
 namespace {
 
-/// Where the help opens when a window beside the main one asks for it.
-constexpr std::pair<std::string_view, HelpPage> kWindowPages[] = {
-    {"ngdr", HelpPage::Test},
-    {"frmGM", HelpPage::Files},
-    {"frmDisplay", HelpPage::Files},
-    {"frmReference", HelpPage::Files}};
+/// The topic at which the help opens when a window beside the main one asks for it.
+constexpr std::pair<std::string_view, std::string_view> kWindowTopics[] = {
+    {"ngdr", "Rolling a test"},
+    {"frmGM", "Files"},
+    {"frmDisplay", "Files"},
+    {"frmReference", "Files"}};
 
-bool HasText(const HelpLine& line, std::string_view text) {
-  return std::ranges::any_of(
-      line.cells, [text](const std::string& cell) { return ContainsIgnoringCase(cell, text); });
+/// Whether the words of a block contain the text; the marks of Markdown are none of them.
+bool HasText(const std::string& block, std::string_view text) {
+  return ContainsIgnoringCase(Replaced(Replaced(block, "**", ""), "`", ""), text);
 }
 
-/// The texts and rows that contain the text, with the headings and titles that they stand under.
-std::vector<HelpLine> LinesWith(const HelpTopic& topic, std::string_view text) {
-  std::vector<HelpLine> lines;
-  const HelpLine* heading = nullptr;
-  const HelpLine* titles = nullptr;
-  for (const HelpLine& line : topic.lines) {
-    if (line.kind == HelpLine::Kind::Heading) {
-      heading = &line;
-      titles = nullptr;
-    } else if (line.kind == HelpLine::Kind::Titles) {
-      titles = &line;
-    } else if (HasText(line, text)) {
-      for (const HelpLine** above : {&heading, &titles}) {
-        if (const HelpLine* first = std::exchange(*above, nullptr)) lines.push_back(*first);
+/// Blocks of one list or table stay together; all others are kept apart by an empty line.
+void Append(std::string& markdown, const std::string& block) {
+  const bool joined = block.starts_with("- ") || (block.starts_with('|') && !Contains(block, "\n"));
+  markdown += (joined ? "\n" : "\n\n") + block;
+}
+
+/// The blocks that contain the text, with the headings and titles that they belong to; empty when
+/// there are none.
+std::string BlocksWith(const HelpTopic& topic, std::string_view text) {
+  std::string markdown;
+  const std::string* heading = nullptr;
+  const std::string* titles = nullptr;
+  for (const std::string& block : topic.blocks) {
+    if (!block.starts_with('|')) titles = nullptr;
+    if (block.starts_with('#')) {
+      heading = &block;
+    } else if (Contains(block, "\n")) {
+      titles = &block;
+    } else if (HasText(block, text)) {
+      for (const std::string** above : {&heading, &titles}) {
+        if (*above != nullptr) Append(markdown, *std::exchange(*above, nullptr));
       }
-      lines.push_back(line);
+      Append(markdown, block);
     }
   }
-  return lines;
+  return markdown;
 }
 
 }  // namespace
 
 void HelpForm::Form_Load(std::string_view window) {
   if (topics_.empty()) topics_ = HelpTopics();
-  const auto* page =
-      std::ranges::find(kWindowPages, window, [](const auto& row) { return row.first; });
-  if (page != std::end(kWindowPages)) chosen_ = static_cast<std::size_t>(page->second);
+  for (const auto& [asking, title] : kWindowTopics) {
+    if (asking != window) continue;
+    chosen_ = static_cast<std::size_t>(std::ranges::find(topics_, title, &HelpTopic::title) -
+                                       topics_.begin());
+  }
   open = true;
   txtFilter_Change({});
 }
@@ -57,7 +66,7 @@ void HelpForm::txtFilter_Change(const std::string& text) {
   found_.clear();
   lstTopics.clear();
   for (std::size_t i = 0; i < topics_.size(); ++i) {
-    if (LinesWith(topics_[i], text).empty()) continue;
+    if (BlocksWith(topics_[i], text).empty()) continue;
     found_.push_back(i);
     lstTopics.push_back(topics_[i].title);
   }
@@ -71,13 +80,14 @@ void HelpForm::lstTopics_Select(int index) {
 }
 
 void HelpForm::ShowTopic() {
-  lines.clear();
+  txtTopic = "No help found.";
   lstTopicsIndex = -1;
   if (found_.empty()) return;
   auto shown = std::ranges::find(found_, chosen_);
   if (shown == found_.end()) shown = found_.begin();
   lstTopicsIndex = static_cast<int>(shown - found_.begin());
-  lines = LinesWith(topics_[*shown], txtFilter);
+  const HelpTopic& topic = topics_[*shown];
+  txtTopic = "## " + topic.title + BlocksWith(topic, txtFilter);
 }
 
 }  // namespace ng

@@ -18,20 +18,20 @@ class HelpForm {
   std::vector<std::string> lstTopics;
   /// The line of `lstTopics` chosen, -1 for none.
   int lstTopicsIndex = -1;
-  /// What the chosen topic says; of tables and texts only the lines with the text looked for.
-  std::vector<HelpLine> lines;
+  /// The chosen topic in Markdown; of tables and texts only the blocks with the text looked for.
+  std::string txtTopic;
 
   /// Opens with all topics: at the one that fits the window the help was asked from (its name),
   /// where it was left for the main window (an empty name).
   void Form_Load(std::string_view window);
-  /// Keeps to the topics and lines that contain the text, whatever its case.
+  /// Keeps to the topics and blocks that contain the text, whatever its case.
   void txtFilter_Change(const std::string& text);
   void lstTopics_Select(int index);
 
  private:
   void ShowTopic();
 
-  /// Written out when the help is first opened.
+  /// Read when the help is first opened.
   std::vector<HelpTopic> topics_;
   /// The topics behind the lines of `lstTopics`.
   std::vector<std::size_t> found_;

@@ -5,24 +5,19 @@
 
 namespace ng {
 
-/// A line of a topic. Rows that follow one another stand in one table, `Titles` above them.
-struct HelpLine {
-  enum class Kind { Heading, Text, Titles, Row };
-  Kind kind;
-  /// One for headings and texts, one for each column in a table.
-  std::vector<std::string> cells;
-};
+/// docs/rules.md, in UTF-8. It is built into the program.
+extern const char* const kRulesText;
 
+/// A topic of the help: what the document has under a heading of the second level.
 struct HelpTopic {
   std::string title;
-  std::vector<HelpLine> lines;
+  /// In Markdown, each on one line: headings, paragraphs, points of a list, rows of a table. The
+  /// titles of a table have the line below them in the same block.
+  std::vector<std::string> blocks;
 };
 
-/// The topics of the help, by their place in `HelpTopics`.
-enum class HelpPage { Turn, Test, Commands, Keys, Files };
-
-/// The whole help. What it says of commands and keys comes from the tables that the menus and the
-/// buttons are made from.
+/// The whole help: the topics of docs/rules.md, and the commands and keys from the tables that
+/// menus and buttons are made from.
 std::vector<HelpTopic> HelpTopics();
 
 }  // namespace ng

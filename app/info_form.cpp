@@ -9,21 +9,21 @@
 namespace ng {
 namespace {
 
-/// What the columns behind the name hold, for lines that the gear table tells nothing about.
+/// What the columns after the name hold, for lines that the gear table says nothing about.
 struct ListColumns {
   SheetList list;
-  std::array<const char*, 5> names;
+  std::array<std::string_view, 5> names;
 };
 constexpr std::array<ListColumns, 6> kColumns = {{
-    {SheetList::Weapon, {"Damage", "Concealability", "Figures", "Ammunition", "Weight"}},
+    {SheetList::Weapon, {"Damage", "Concealability", "Details", "Ammunition", "Weight"}},
     {SheetList::Armor, {"Concealability", "Ballistic", "Impact", "Weight"}},
-    {SheetList::Active, {"Rating"}},
-    {SheetList::Other, {"Rating"}},
+    {SheetList::Active, {"Rating", "Kind"}},
+    {SheetList::Other, {"Rating", "Kind"}},
     {SheetList::Edges, {"Points"}},
     {SheetList::Contacts, {"Level"}},
 }};
 
-/// "CYB: ", "SPL: " and the like tell where a line comes from and are no part of the name.
+/// "CYB: ", "SPL: " and the like say where a line comes from and are no part of the name.
 constexpr std::size_t kMarkLength = 5;
 
 std::string WithoutMark(SheetList list, const std::string& name) {
@@ -32,7 +32,7 @@ std::string WithoutMark(SheetList list, const std::string& name) {
   return name.substr(kMarkLength);
 }
 
-/// A weapon may stand in the reference file without its class code.
+/// A weapon may be in the reference file without its class code.
 std::string WithoutClass(const std::string& name) {
   return std::string(Trimmed(std::string_view(name).substr(0, name.rfind('('))));
 }
@@ -64,7 +64,7 @@ void InfoForm::Fill() {
   txtReference.clear();
   const std::string* line = form_.sheet.Line(list_, Marked(list_));
   if (line == nullptr) {
-    lblItem = "Mark a line of a list first";
+    lblItem = "Select a line first";
     return;
   }
   const std::string text = CleanItemText(*line);
@@ -96,10 +96,13 @@ void InfoForm::FillFigures(const std::string& line) {
 void InfoForm::FillColumns(const std::string& line) {
   const auto* const columns = std::ranges::find(kColumns, list_, &ListColumns::list);
   if (columns == kColumns.end()) return;
-  int column = 0;
-  for (const char* name : columns->names) {
-    const std::string_view value = Piece(line, '\t', ++column);
-    if (!value.empty()) lstFigures.push_back(Row(name, value));
+  const std::vector<std::string_view> values = Split(line, '\t');
+  for (std::size_t column = 1; column < values.size(); ++column) {
+    if (values[column].empty()) continue;
+    const bool named = column <= columns->names.size() && !columns->names[column - 1].empty();
+    // A file may hold more than the list is made for.
+    lstFigures.push_back(named ? Row(columns->names[column - 1], values[column])
+                               : Row("Column " + std::to_string(column + 1), values[column]));
   }
 }
 

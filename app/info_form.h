@@ -11,7 +11,7 @@ namespace ng {
 
 class MainForm;
 
-/// The information window, frmInfo: every figure of the line that was marked last on one of the
+/// The information window, frmInfo: all details of the line that was selected last on one of the
 /// pages, and what the reference file says of it.
 class InfoForm {
  public:
@@ -19,25 +19,25 @@ class InfoForm {
 
   bool open = false;
   std::string lblItem;
-  /// Columns: name of the figure, value.
+  /// Columns: name of the detail, value.
   std::vector<std::string> lstFigures;
   std::string txtReference;
 
-  /// A line was marked. The open window follows.
+  /// A line was selected. The open window follows.
   void Mark(SheetList list, int index);
-  /// Somebody else is displayed, none of whose lines is marked. An open window goes on showing what
-  /// it shows, for comparison.
+  /// Somebody else is displayed, none of whose lines is selected. An open window goes on showing
+  /// what it shows, for comparison.
   void MarkNothing() { marked_.fill(-1); }
-  /// The marked line has changed; the open window shows it anew.
+  /// The selected line has changed; the open window shows it again.
   void Refresh() {
     if (open) Fill();
   }
-  /// The marked line of a list, -1 for none.
+  /// The selected line of a list, -1 for none.
   int Marked(SheetList list) const { return marked_[static_cast<std::size_t>(list)]; }
 
-  /// Opens at the line that was marked last.
+  /// Opens at the line that was selected last.
   void Form_Load();
-  /// Opens at the marked line of this list.
+  /// Opens at the selected line of this list.
   void Form_Load(SheetList list);
 
  private:

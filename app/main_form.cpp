@@ -44,17 +44,14 @@ void HeaderPanel::Show(const PlayerRecord& record) {
 }
 
 MainForm::MainForm(Environment& environment, LoaderForm& loader, OptionsForm& options)
-    : gmLog(environment.files, environment.location.directory + "\\ngtracker.txt",
-            [this](const std::string& failure) { statusMessage = failure; }),
+    : gmLog(environment.files, environment.location.directory + "\\ngtracker.txt"),
       reference(info, environment.files),
       GridX(fight),
       sequencer(fight, GridX, environment.uniform, environment.prompts, *this),
       actions(fight, characters, GridX, sequencer, gmLog, environment.prompts, *this),
       damageMonitor(fight, damage, sequencer),
-      ngdr(
-          fight, environment.uniform, environment.prompts,
-          [this](Slot slot, Integer left) { SpendPool(slot, left); },
-          [this](Weapon weapon) { return WieldsInMelee(weapon); }),
+      ngdr(fight, environment.uniform, environment.prompts, *this,
+           [this](Slot slot, Integer left) { SpendPool(slot, left); }),
       firing(fight, characters, weapons, ngdr, gmLog, environment.prompts, environment.settings),
       skillTests(fight, firing, ngdr, skillLevel, environment.prompts, environment.settings),
       fightFiles(*this, environment),
@@ -94,15 +91,17 @@ void MainForm::mnuFileNew() {
   actions.RemoveAll();
   const Integer left = fight.CountPlayers();
   if (left > 0) {
-    statusMessage = "Beyond a gap in the table " + PlainText(left) +
-                    (left == 1 ? " combatant remains" : " combatants remain");
+    statusMessage = PlainText(left) + (left == 1 ? " combatant remains" : " combatants remain") +
+                    " beyond an empty slot";
   }
 }
 
 void MainForm::mnuFileOpen() {
   loader_.Form_Load();
   environment_.prompts.ShowModal(ModalForm::Loader);
-  fightFiles.ImportCharacters(FileNames(loader_.selectionList));
+  std::vector<std::string> names = FileNames(loader_.selectionList);
+  for (std::string& name : names) name = ImportName(environment_.settings.NG3Dir, name);
+  fightFiles.ImportCharacters(names);
 }
 
 void MainForm::Form_Drop(const std::string& names) { fightFiles.OpenFiles(FileNames(names)); }
@@ -119,8 +118,14 @@ void MainForm::mnuFileExit() {
   closing = true;
 }
 
+void MainForm::mnuViewGM() {
+  frmGMOpen = true;
+  gmLog.FailureSeen();
+}
+
 void MainForm::mnuViewLog() {
   logViewer.Form_Load(environment_.files, environment_.location.directory + "\\ngtracker.txt");
+  gmLog.FailureSeen();
 }
 
 void MainForm::cmdAddNote() { gmLog.Add(environment_.prompts.Input(" Enter your note")); }
@@ -139,8 +144,6 @@ void MainForm::mnuTReset() {
 void MainForm::mnuTNext() {
   SyncSheet();
   sequencer.Next();
-  // Where the step displayed nobody, the boxes still stand and firing goes on from them.
-  firing.TakeRoundCounters();
 }
 
 void MainForm::mnuTPrev() { sequencer.Previous(); }
@@ -169,7 +172,6 @@ void MainForm::mnuPRocket() {
 }
 
 void MainForm::mnuPMult() {
-  SyncSheet();
   Integer asked;
   const Integer made = actions.Multiply(asked);
   if (asked == 0) return;
@@ -194,15 +196,22 @@ void MainForm::mnuHelpAbout() { environment_.prompts.ShowModal(ModalForm::About)
 void MainForm::GridX_Click(int row) {
   if (row < 1 || row > GridX.RowCount()) return;
   SyncSheet();
-  XFerPC(fight.InitOrder[row]);
+  XFerPC(fight.InitOrder[OrderPosition::From(row)]);
   GridX.SetCurrent(row, InitiativeGrid::kRollColumn);
 }
 
 void MainForm::GridX_Cell(int row, int column) { GridX.SetCurrent(row, column); }
 
 void MainForm::GridX_KeyPress(int code) {
-  if (!GridX.TypeCharacter(code)) return;
-  const Slot slot = fight.InitOrder[GridX.CurrentRow()];
+  if (GridX.TypeCharacter(code)) TakeCell();
+}
+
+void MainForm::GridX_Restore() {
+  if (GridX.RestoreText()) TakeCell();
+}
+
+void MainForm::TakeCell() {
+  const Slot slot = fight.InitOrder[OrderPosition::From(GridX.CurrentRow())];
   if (slot == 0) return;
   const auto& text = GridX.RowAt(GridX.CurrentRow()).text;
   PlayerRecord& record = fight.Players[slot];
@@ -210,6 +219,8 @@ void MainForm::GridX_KeyPress(int code) {
     record.CondCode = text[InitiativeGrid::kTextColumn];
     return;
   }
+  // A stray letter must not wipe out a roll.
+  if (!IsWholeNumber(text[InitiativeGrid::kRollColumn])) return;
   record.RRSLT = LenientInteger(text[InitiativeGrid::kRollColumn]);
   if (slot == fight.CurrentPCpointer) header.txtRRSLT = PlainText(record.RRSLT);
 }
@@ -222,22 +233,35 @@ void MainForm::ShowRoller() {
   ngdr.visible = true;
 }
 
-bool MainForm::WieldsInMelee(Weapon weapon) const {
-  const PlayerRecord& record = fight.Players[fight.CurrentPCpointer];
-  return IsMeleeWeaponType(ConvertSkill(
-      skillTable, weapon == Weapon::Primary ? record.SkillPrimaryName : record.SkillSecondaryName));
+bool MainForm::WieldsInMelee(const PlayerRecord& combatant, Weapon weapon) const {
+  return IsMeleeWeaponType(ConvertSkill(skillTable, combatant.*FieldsOf(weapon).skillName));
+}
+
+Integer MainForm::WeaponModifier(const PlayerRecord& combatant, Weapon weapon) const {
+  return firing.TotalsOf(combatant)[static_cast<std::size_t>(weapon)];
+}
+
+void MainForm::FollowTest() {
+  try {
+    ngdr.Follow();
+  } catch (const RuntimeError&) {
+    return;
+  }
 }
 
 void MainForm::ShowRestored(Slot slot) {
-  for (int i = 1; i <= Fight::kLastSlot; ++i) {
-    PlayerRecord& record = fight.Players[i];
+  fight.Recount();
+  for (const Slot restored : AllSlots()) {
+    PlayerRecord& record = fight.Players[restored];
     // The file holds the boxes, not the code that the grid shows for them.
     if (record.CurDamPhysical != 0 || record.CurDamStun != 0) {
       record.CondCode = ConditionCode(record);
     }
   }
   GridX.RefreshGrid();
-  XFerPC(slot);
+  // A load that broke off may have left any number.
+  const bool held = slot > 0 && slot <= Fight::kLastSlot;
+  XFerPC(held ? slot : Slot(0));
 }
 
 void MainForm::tabMain_Click(int page) {
@@ -262,7 +286,6 @@ void MainForm::XFerPC(Slot slot) {
   actions.delayChecked = static_cast<bool>(record.Delay);
   actions.inactiveChecked = static_cast<bool>(record.inactive);
   // Numbers out of range can end these, so that all else is shown by now.
-  firing.TakeRoundCounters();
   firing.UpdateWeaponModifiers();
 }
 
@@ -270,10 +293,11 @@ void MainForm::RecalcArmor() {
   if (!Displaying()) return;
   const CharacterEntry* entry = characters.Of(Displayed());
   if (entry == nullptr) return;
-  const ArmourFigures figures = DeriveArmour(*entry);
-  StoreArmour(Displayed(), figures);
-  sheet.ShowFigures(figures);
+  StoreArmour(Displayed(), DeriveArmour(*entry));
+  ShowDerivedArmour();
 }
+
+void MainForm::ShowDerivedArmour() { sheet.ShowFigures(ArmourOf(Displayed())); }
 
 void MainForm::SyncSheet() {
   if (!Displaying()) return;
@@ -286,20 +310,10 @@ void MainForm::SyncSheet() {
 
 void MainForm::RefreshPools() { ng::RefreshPools(fight, characters); }
 
-void MainForm::ZeroRoundCounters() { firing.ZeroRoundCounters(); }
-
-std::string MainForm::TurnBadge() const {
-  if (!Displaying()) return "\x96";
-  const PlayerRecord& record = fight.RecordOf(fight.CurrentPCpointer);
-  if (record.inactive) return "Inactive";
-  if (record.Delay) return "Delayed";
-  return record.SetGreen ? "On turn" : "Waiting";
-}
-
 std::string MainForm::RoundsLeft(Weapon weapon) const {
   if (weapons.lblAmmo[static_cast<std::size_t>(weapon)].empty()) return {};
   try {
-    return PlainText(firing.AmmoLeft(weapon));
+    return PlainText(AmmoLeft(fight.RecordOf(fight.CurrentPCpointer), weapon));
   } catch (const RuntimeError&) {
     // The window is painted outside every command: a number that cannot be counted is not shown.
     return {};

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "app/act.h"
 #include "app/fight_files.h"
 #include "app/help_form.h"
 #include "app/info_form.h"
@@ -30,6 +31,7 @@
 #include "tracker/fight/fight.h"
 #include "tracker/grid.h"
 #include "tracker/sequencer.h"
+#include "tracker/turn_status.h"
 
 namespace ng {
 
@@ -64,7 +66,7 @@ struct HeaderPanel {
 
 /// The main window without the toolkit: the fight, the panels that show the displayed combatant,
 /// and the commands.
-class MainForm : private SequencerHost {
+class MainForm : private SequencerHost, private DiceRoller::Weapons {
  public:
   MainForm(Environment& environment, LoaderForm& loader, OptionsForm& options);
 
@@ -108,6 +110,8 @@ class MainForm : private SequencerHost {
   /// The page that is open: combat, gear, person, notes.
   int tabMain = 0;
   std::string statusMessage = "Ready";
+  /// What is wrong with the journal of the fight, until it has been seen; otherwise empty.
+  std::string lblJournal;
   WindowLayout layout;
   bool closing = false;
 
@@ -117,6 +121,10 @@ class MainForm : private SequencerHost {
   /// Keeps the layout for the next start.
   void Form_Unload();
 
+  /// Says that characters were typed or pasted that the program's files cannot hold.
+  void Form_LeftOut() {
+    statusMessage = "Left out: characters that cannot be saved (outside Windows-1252)";
+  }
   /// Opens files dropped on the window or named at the start; the names are joined by "|".
   void Form_Drop(const std::string& names);
 
@@ -140,7 +148,7 @@ class MainForm : private SequencerHost {
   void mnuPMult();
   void mnuPRemove();
   void mnuViewOptions();
-  void mnuViewGM() { frmGMOpen = true; }
+  void mnuViewGM();
   void mnuViewLog();
   void mnuViewReference() { reference.Form_Load(); }
   void mnuHelpAbout();
@@ -154,17 +162,21 @@ class MainForm : private SequencerHost {
   void GridX_Click(int row);
   /// Moves the current cell without displaying anybody.
   void GridX_Cell(int row, int column);
-  /// Edits the current cell. The Roll column goes into `RRSLT` at once, the
-  /// third one stands until the next change of damage.
+  /// Edits the current cell. A whole number in the Roll column goes into `RRSLT` at once; any other
+  /// text there is only shown until the grid is written again. The third column's text is kept
+  /// until the next change of damage.
   void GridX_KeyPress(int code);
+  /// Takes back what was typed into the current cell.
+  void GridX_Restore();
 
   // The sheet. With nobody displayed these do nothing.
   void optInitMode(int option);
   void txtRRSLT_Change(const std::string& text);
   void txtInit_Change(int index, const std::string& text);
   void txtReac_Change(int index, const std::string& text);
-  /// A box of the combat page was edited: takes the text over into the record at once.
-  void Box_Change(std::string& box, const std::string& text);
+  /// A control that is bound to a field was edited: takes it over into the record at once.
+  /// Subscript out of range for an element that a control array does not have.
+  void Bound_Change(const Act& act);
   /// Wounds of the damage panel: boxes added, or taken away when negative.
   void Damage(Track track, Integer boxes);
   void cmdDamZero(Track track);
@@ -177,10 +189,11 @@ class MainForm : private SequencerHost {
   /// Takes over the combat pool that a test left.
   void CP(Integer value);
   void optRangeSel(Weapon weapon, int range);
-  /// A box that recoil hangs on was edited.
-  void WeaponBox_Change(std::string& box, const std::string& text);
-  void chkTwoGuns_Click();
   void Sight_Click(Weapon weapon, Sight sight);
+  /// Fires a weapon; says in the status bar when no firing skill is chosen, so that
+  /// the range does not count.
+  void Fire(Weapon weapon, int rounds);
+  void FullAuto(Weapon weapon);
   void cmdDisarm(Weapon weapon);
   /// Takes the marked line of the weapon list into a hand.
   void cmdSetWeapon(Weapon weapon);
@@ -203,15 +216,20 @@ class MainForm : private SequencerHost {
   void XFerPC(Slot slot) override;
   /// The armour and weight derivation for the displayed combatant.
   void RecalcArmor();
+  /// Shows the armour of the displayed record as RecalcArmor does, for one that was just derived.
+  void ShowDerivedArmour();
 
   /// Stores what is on the sheet into the displayed record.
   void StoreSheet() { SyncSheet(); }
   /// Shows a fight that was read over this one, and this combatant of it.
   void ShowRestored(Slot slot);
 
+  /// To be called when a command has run: the open test follows its combatant. Numbers that cannot
+  /// be added up leave it as it is; they were told when the combatant was displayed.
+  void FollowTest();
+
   // What the window shows beside the controls.
-  /// "On turn", "Delayed", "Inactive" or "Waiting"; a dash with nobody displayed.
-  std::string TurnBadge() const;
+  TurnState TurnBadge() const { return TurnStateOf(fight, fight.CurrentPCpointer); }
   /// The grid row of the displayed combatant, 0 for none.
   int ShownRow() const;
   /// Rounds left in a weapon's magazine; empty for a weapon without one.
@@ -220,18 +238,23 @@ class MainForm : private SequencerHost {
  private:
   void SyncSheet() override;
   void RefreshPools() override;
-  void ZeroRoundCounters() override;
 
   bool Displaying() const { return fight.CurrentPCpointer != 0; }
   PlayerRecord& Displayed() { return fight.Players[fight.CurrentPCpointer]; }
+  /// What was typed into the current cell goes into its record.
+  void TakeCell();
   template <typename Table>
   void Take(Table& table, Loaded<Table> loaded);
   /// Shows what an action may have changed of the displayed combatant.
   void ShowHeader() { header.Show(fight.Players[fight.CurrentPCpointer]); }
+  template <class Panel>
+  bool EditBound(Panel& panel, const Act& act);
   void UpdateWeapons();
   /// Takes over the combat pool that a test left of a combatant.
   void SpendPool(Slot slot, Integer left);
-  bool WieldsInMelee(Weapon weapon) const;
+  bool WieldsInMelee(const PlayerRecord& combatant, Weapon weapon) const override;
+  Integer WeaponModifier(const PlayerRecord& combatant, Weapon weapon) const override;
+  void TellMissingSkill(Weapon weapon, int testsBefore);
   void ToggleCarried(std::vector<CarriedLine> CharacterEntry::*list, int index);
 
   Environment& environment_;

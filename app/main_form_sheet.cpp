@@ -1,6 +1,8 @@
 // What the game master does with the displayed combatant: the edits, buttons and lists of the
 // pages.
 
+#include <algorithm>
+
 #include "app/main_form.h"
 #include "base/number_text.h"
 
@@ -30,26 +32,24 @@ void MainForm::txtReac_Change(int index, const std::string& text) {
   (index == 0 ? Displayed().CurReactNatural : Displayed().CurReactAugmented) = LenientInteger(text);
 }
 
-void MainForm::Box_Change(std::string& box, const std::string& text) {
-  if (!Displaying()) return;
-  // A number beyond the range ends here and leaves the box as it was.
-  LenientInteger(text);
-  box = text;
-  SyncSheet();
+/// Returns false for an act on no control that the panel lets edit, or with nobody displayed.
+template <class Panel>
+bool MainForm::EditBound(Panel& panel, const Act& act) {
+  const auto rows = Panel::Bound();
+  const auto row = std::ranges::find(rows, act.control, &BoundControl<Panel>::name);
+  if (row == rows.end() || row->edit == nullptr) return false;
+  if (row->elements > 0 && (act.index < 0 || act.index >= row->elements)) ThrowSubscript();
+  if (!Displaying()) return false;
+  row->edit(panel, static_cast<std::size_t>(act.index), act.text);
+  return true;
 }
 
-void MainForm::WeaponBox_Change(std::string& box, const std::string& text) {
-  if (!Displaying()) return;
-  LenientInteger(text);
-  box = text;
-  firing.TakeRoundCounters();
-  UpdateWeapons();
-}
-
-void MainForm::chkTwoGuns_Click() {
-  if (!Displaying()) return;
-  weapons.chkTwoGuns = !weapons.chkTwoGuns;
-  UpdateWeapons();
+void MainForm::Bound_Change(const Act& act) {
+  if (EditBound(damage, act) || EditBound(pools, act)) {
+    SyncSheet();
+  } else if (EditBound(weapons, act)) {
+    UpdateWeapons();
+  }
 }
 
 void MainForm::Sight_Click(Weapon weapon, Sight sight) {
@@ -61,6 +61,25 @@ void MainForm::Sight_Click(Weapon weapon, Sight sight) {
 void MainForm::UpdateWeapons() {
   firing.UpdateWeaponModifiers();
   SyncSheet();
+}
+
+void MainForm::Fire(Weapon weapon, int rounds) {
+  const int tests = ngdr.TestsStarted();
+  firing.Fire(weapon, rounds);
+  TellMissingSkill(weapon, tests);
+}
+
+void MainForm::FullAuto(Weapon weapon) {
+  const int tests = ngdr.TestsStarted();
+  firing.FullAuto(weapon);
+  TellMissingSkill(weapon, tests);
+}
+
+void MainForm::TellMissingSkill(Weapon weapon, int testsBefore) {
+  if (ngdr.TestsStarted() == testsBefore) return;
+  statusMessage = WieldsInMelee(Displayed(), weapon)
+                      ? "No firing skill chosen for this weapon: base number 4 at any range"
+                      : "Ready";
 }
 
 void MainForm::cmdDisarm(Weapon weapon) { firing.Disarm(weapon); }

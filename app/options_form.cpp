@@ -7,9 +7,10 @@ void OptionsForm::Form_Load() {
   if (written_) {
     stored = *written_;
   } else {
-    ReadSettings(files_, location_, stored);
+    ProfileReader profile(files_, location_);
+    ReadSettings(profile, stored);
   }
-  // In the run that asked for it the directory is not in force yet, but it has been chosen.
+  // In the run that asked for it the directory has no effect yet, but it has been chosen.
   dirNG3 = settings_.NG3Dir.empty() && written_ ? written_->NG3Dir : settings_.NG3Dir;
   // At the first start the dialog comes before the directory was read.
   dirDat = settings_.DatDir.empty() ? stored.DatDir : settings_.DatDir;

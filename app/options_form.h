@@ -23,8 +23,8 @@ class OptionsForm {
   bool open = false;
 
   void Form_Load();
-  /// Takes over the directories at once and writes tracker.ini; the switches count from the next
-  /// start on. A file error leaves the dialog open.
+  /// Takes over the directories at once and writes tracker.ini; the switches take effect at the
+  /// next start. A file error leaves the dialog open.
   void cmdOK();
   void cmdCancel() { open = false; }
 

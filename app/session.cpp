@@ -18,10 +18,10 @@ Session::Session(Environment outside)
 bool Session::Do(const Act& act) {
   const Command* command = FindCommand(act.control);
   if (command == nullptr) throw std::invalid_argument("no command is named " + act.control);
-  // What an earlier command had to say is over with the next one of the menus.
+  // A command of the menus clears what an earlier one said.
   if (command->menu != Menu::None) main.statusMessage = "Ready";
   const bool finished = Finish([&] { command->run(*this, act); });
-  return Finish([&] { main.ngdr.FollowPool(); }) && finished;
+  return Finish([&] { main.FollowTest(); }) && finished;
 }
 
 template <typename Work>

@@ -13,7 +13,7 @@ class Session {
  public:
   explicit Session(Environment environment);
 
-  // The forms hold on to the environment.
+  // The forms keep references to the environment.
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
 

@@ -5,12 +5,16 @@ namespace ng {
 bool Main(Session& session, StartupWindows& windows) {
   Environment& environment = session.environment;
   windows.ShowSplash();
-  const std::string directory = ReadCharacterDirectory(environment.files, environment.location);
-  if (directory.empty() && !session.Do({"mnuViewOptions"})) return false;
-  // What was picked in the dialog stands in the file and counts from the next start on; this run
-  // goes on with what was read. That is deliberate.
+  ProfileReader profile(environment.files, environment.location);
+  const std::string directory = ReadCharacterDirectory(profile);
+  if (directory.empty()) {
+    if (!session.Do({"mnuViewOptions"})) return false;
+    profile.Forget();
+  }
+  // Deliberate: what was picked in the dialog was written to the file and takes effect at the next
+  // start; this run goes on with what was read.
   environment.settings.NG3Dir = directory;
-  ReadSettings(environment.files, environment.location, environment.settings);
+  ReadSettings(profile, environment.settings);
   if (!session.Do({"Form_Load"})) return false;
   windows.LoadMain();
   windows.UnloadSplash();

@@ -56,6 +56,8 @@ char ByteOf(char32_t codePoint) {
   return '?';
 }
 
+bool InCodePage(char32_t codePoint) { return codePoint == U'?' || ByteOf(codePoint) != '?'; }
+
 std::string ToUtf8(std::string_view text) {
   std::string result;
   result.reserve(text.size());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <concepts>
 #include <cstddef>
 
 #include "base/integer.h"
@@ -8,16 +9,18 @@
 namespace ng {
 
 /// A table with the indices 0 to `last`; any other index ends the command with "Subscript out of
-/// range".
-template <typename T, int last>
+/// range". A table of a `Key` of its own takes no other kind of index.
+template <typename T, int last, typename Key = Integer>
 class FixedTable {
  public:
   static constexpr int kLast = last;
 
-  T& operator[](int index) { return entries_[Checked(index)]; }
-  const T& operator[](int index) const { return entries_[Checked(index)]; }
-  T& operator[](Integer index) { return entries_[Checked(index.Value())]; }
-  const T& operator[](Integer index) const { return entries_[Checked(index.Value())]; }
+  T& operator[](Key index) { return entries_[Checked(index.Value())]; }
+  const T& operator[](Key index) const { return entries_[Checked(index.Value())]; }
+  T& operator[](int index) requires std::same_as<Key, Integer> { return entries_[Checked(index)]; }
+  const T& operator[](int index) const requires std::same_as<Key, Integer> {
+    return entries_[Checked(index)];
+  }
 
   auto begin() { return entries_.begin(); }
   auto end() { return entries_.end(); }

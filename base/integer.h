@@ -1,6 +1,7 @@
 #pragma once
 
 #include <compare>
+#include <concepts>
 #include <cstdint>
 
 #include "base/runtime_error.h"
@@ -34,12 +35,20 @@ class Integer {
   std::int16_t value_ = 0;
 };
 
+/// `value`, but no less than `bound`.
+constexpr Integer AtLeast(Integer value, Integer bound) { return value < bound ? bound : value; }
+
+/// `value`, but no more than `bound`.
+constexpr Integer AtMost(Integer value, Integer bound) { return value > bound ? bound : value; }
+
 /// A flag of the fight: -1 is true, 0 is false, and every test asks for exactly -1, so that a
 /// stored 1 counts as false.
 class Boolean {
  public:
   constexpr Boolean() = default;
-  constexpr Boolean(bool value)  // NOLINT(google-explicit-constructor)
+  /// From a truth value only: a number that slips in here would count as true.
+  template <std::same_as<bool> Truth>
+  constexpr Boolean(Truth value)  // NOLINT(google-explicit-constructor)
       : raw_(value ? std::int16_t{-1} : std::int16_t{0}) {}
 
   /// Keeps `raw` as it is, for values that come from elsewhere.

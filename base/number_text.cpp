@@ -1,5 +1,6 @@
 #include "base/number_text.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -87,20 +88,20 @@ std::int32_t LenientLong(std::string_view text) {
   return static_cast<std::int32_t>(rounded);
 }
 
-Integer StrictInteger(std::string_view text) {
+bool IsWholeNumber(std::string_view text) {
   text = Trimmed(text);
-  std::string_view digits = text;
-  if (digits.starts_with('-') || digits.starts_with('+')) digits.remove_prefix(1);
-  if (digits.empty()) throw RuntimeError(ErrorNumber::TypeMismatch);
-  for (const char c : digits) {
-    if (!IsDigit(c)) throw RuntimeError(ErrorNumber::TypeMismatch);
-  }
+  if (text.starts_with('-') || text.starts_with('+')) text.remove_prefix(1);
+  return !text.empty() && std::ranges::all_of(text, IsDigit);
+}
+
+Integer StrictInteger(std::string_view text) {
+  if (!IsWholeNumber(text)) throw RuntimeError(ErrorNumber::TypeMismatch);
   return LenientInteger(text);
 }
 
 std::string PlainText(double value) {
   std::array<char, 40> buffer{};
-  // Minus zero is no number that a game master knows.
+  // No game master expects "-0".
   const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
                                     value == 0 ? 0.0 : value, std::chars_format::general, 15);
   return {buffer.data(), result.ptr};

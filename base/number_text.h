@@ -24,6 +24,9 @@ Integer LenientInteger(std::string_view text);
 /// The lenient reading of a 32-bit integer. Overflow outside the range.
 std::int32_t LenientLong(std::string_view text);
 
+/// Whether `text`, apart from blanks round it, is a whole number: digits, with or without a sign.
+bool IsWholeNumber(std::string_view text);
+
 /// The strict reading: apart from blanks round it the whole text must be a whole number, otherwise
 /// "Type mismatch"; Overflow outside the 16-bit range.
 Integer StrictInteger(std::string_view text);
@@ -32,8 +35,8 @@ Integer StrictInteger(std::string_view text);
 std::string PlainText(double value);
 std::string PlainText(Integer value);
 
-/// A number as the print statement writes it to files: a blank before one that is not negative,
-/// and a blank behind it.
+/// A number as it is written to files: a blank before one that is not negative, and a blank after
+/// it.
 std::string PrintForm(std::int32_t value);
 std::string PrintForm(Integer value);
 

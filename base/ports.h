@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -10,6 +11,14 @@ namespace ng {
 // All of the outside that the logic knows. The session is given one of each at start; tests give
 // it recording fakes.
 
+/// The files of a directory as a file list shows them.
+struct FileList {
+  std::vector<std::string> names;
+  /// Files that are there but cannot be named: in the program's path texts they would be told from
+  /// nothing else.
+  int unlisted = 0;
+};
+
 /// Files by the program's own path texts, in which "\" separates and, on POSIX, "/" as well. An
 /// exact name that does not exist is looked for ignoring case, since the data directories come from
 /// a system that ignores it.
@@ -17,18 +26,19 @@ class Files {
  public:
   virtual ~Files() = default;
 
-  /// The whole content. Throws the platform's file errors ("File not found", "Path not found").
+  /// The whole content. Throws the file errors of runtime_error.h ("File not found", "Path not
+  /// found").
   virtual std::string ReadWhole(const std::string& path) = 0;
   /// Replaces the file by `bytes` in one step: a failure on the way leaves the old file whole.
   virtual void Replace(const std::string& path, std::string_view bytes) = 0;
   virtual void Append(const std::string& path, std::string_view bytes) = 0;
 
-  /// The names of the files of `directory` that end in `ending` (ASCII case ignored), sorted as
-  /// the file list shows them; none when the directory cannot be read.
-  virtual std::vector<std::string> List(const std::string& directory, std::string_view ending) = 0;
+  /// The names of the files of `directory` that end in `ending` (ASCII case ignored), sorted; none
+  /// when the directory cannot be read. Every name opens its file.
+  virtual FileList List(const std::string& directory, std::string_view ending) = 0;
 };
 
-/// The platform's uniform random source.
+/// The uniform random source.
 class Uniform {
  public:
   virtual ~Uniform() = default;
@@ -58,7 +68,7 @@ class Prompts {
 
   /// A box with an OK button and the application's title; returns when it is closed.
   virtual void Message(std::string_view text) = 0;
-  /// An input box; Cancel gives the empty text, as the platform's does.
+  /// An input box; Cancel gives the empty text.
   virtual std::string Input(std::string_view prompt) = 0;
   virtual void Beep() = 0;
   /// The chosen path, or nothing on Cancel.
@@ -67,9 +77,46 @@ class Prompts {
   virtual SaveChoice AskToSave(std::string_view question) = 0;
   /// Shows the form and returns when it is closed.
   virtual void ShowModal(ModalForm form) = 0;
-  /// `done` of `total` steps of a piece of work are behind us, all of them at its end. Nothing need
+  /// `done` of `total` steps of a piece of work are done, all of them at its end. Nothing need
   /// be shown of work that is over in a moment.
   virtual void ShowProgress(std::string_view what, int done, int total) = 0;
+};
+
+/// The wall clock.
+class Clock {
+ public:
+  virtual ~Clock() = default;
+  /// The local date and time to the second, "2026-11-21 21:43:05".
+  virtual std::string Now() = 0;
+};
+
+/// A file that only grows. While it is open no other program can open it as one.
+class DurableFile {
+ public:
+  virtual ~DurableFile() = default;
+  /// When this returns the bytes outlive the program; within a second they outlive the machine.
+  /// Throws the file errors.
+  virtual void Append(std::string_view bytes) = 0;
+  /// Puts what was appended on the device as soon as may be, without waiting for it.
+  virtual void Flush() = 0;
+};
+
+/// The journals of fights, by their names.
+class JournalStore {
+ public:
+  virtual ~JournalStore() = default;
+  /// In rising order; none when there is no such directory.
+  virtual std::vector<std::string> List() = 0;
+  /// The whole content. Throws the file errors.
+  virtual std::string Read(const std::string& name) = 0;
+  /// Whether a program that runs has it open.
+  virtual bool IsHeld(const std::string& name) = 0;
+  /// Opens a journal, cut off behind its first `bytes` bytes, or makes a new one. Throws the file
+  /// errors, "Permission denied" where a running program has it open.
+  virtual std::unique_ptr<DurableFile> Open(const std::string& name, std::size_t bytes) = 0;
+  /// Gives it another name, also while it is open. Throws the file errors.
+  virtual void Rename(const std::string& from, const std::string& to) = 0;
+  virtual void Remove(const std::string& name) = 0;
 };
 
 /// The per-user store for the window layout.

@@ -7,8 +7,8 @@
 
 namespace ng {
 
-/// Work of several equal steps that the game master may have to wait for. Whatever ends the work,
-/// the end of this ends what is shown of it.
+/// Work of several equal steps that the game master may have to wait for. However the work
+/// ends, nothing more is shown of it when this is destroyed.
 class Progress {
  public:
   Progress(Prompts& prompts, std::string what, int steps)

@@ -6,6 +6,8 @@ const char* ErrorText(ErrorNumber number) {
   switch (number) {
     case ErrorNumber::Overflow:
       return "Overflow";
+    case ErrorNumber::OutOfMemory:
+      return "Out of memory";
     case ErrorNumber::SubscriptOutOfRange:
       return "Subscript out of range";
     case ErrorNumber::TypeMismatch:

@@ -5,9 +5,10 @@
 
 namespace ng {
 
-/// The platform's numbers for the runtime errors that a command can end with.
+/// The program's own numbers for the runtime errors that a command can end with.
 enum class ErrorNumber {
   Overflow = 6,
+  OutOfMemory = 7,
   SubscriptOutOfRange = 9,
   TypeMismatch = 13,
   BadFileName = 52,
@@ -22,7 +23,7 @@ enum class ErrorNumber {
   Cancelled = 32755,
 };
 
-/// The platform's text for `number`, as the error box shows it ("Overflow").
+/// The text of the error `number`, as the message box shows it ("Overflow").
 const char* ErrorText(ErrorNumber number);
 
 /// Ends the command that runs, from wherever it is; the session's door shows the text. What the
@@ -30,7 +31,7 @@ const char* ErrorText(ErrorNumber number);
 /// a message and a return.
 class RuntimeError : public std::exception {
  public:
-  /// `detail`, when given, is shown on a line of its own below the platform's text.
+  /// `detail`, when given, is shown on a line of its own below the error's own text.
   explicit RuntimeError(ErrorNumber number, const std::string& detail = {});
 
   ErrorNumber Number() const { return number_; }

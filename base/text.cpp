@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/runtime_error.h"
+
 namespace ng {
 
 namespace {
@@ -55,14 +57,8 @@ bool ContainsIgnoringCase(std::string_view text, std::string_view part) {
 
 std::vector<std::string_view> Split(std::string_view text, char separator) {
   std::vector<std::string_view> pieces;
-  if (text.empty()) return pieces;
-  std::size_t start = 0;
-  for (std::size_t end = text.find(separator); end != std::string_view::npos;
-       end = text.find(separator, start)) {
-    pieces.push_back(text.substr(start, end - start));
-    start = end + 1;
-  }
-  pieces.push_back(text.substr(start));
+  PieceReader reader(text, separator);
+  for (std::string_view piece; reader.Next(piece);) pieces.push_back(piece);
   return pieces;
 }
 
@@ -92,6 +88,21 @@ std::string Padded(std::string_view text, std::size_t width) {
   std::string result(text);
   if (result.size() < width) result.append(width - result.size(), ' ');
   return result;
+}
+
+bool PieceReader::Next(std::string_view& piece) {
+  if (!more_) return false;
+  const std::size_t end = rest_.find(separator_);
+  piece = rest_.substr(0, end);
+  more_ = end != std::string_view::npos;
+  if (more_) rest_.remove_prefix(end + 1);
+  return true;
+}
+
+std::string_view PieceReader::Required() {
+  std::string_view piece;
+  if (!Next(piece)) ThrowSubscript();
+  return piece;
 }
 
 bool LineReader::Next(std::string_view& line) {

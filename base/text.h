@@ -38,6 +38,24 @@ std::string Replaced(std::string_view text, std::string_view from, std::string_v
 /// `text` filled up with blanks to `width` characters; a longer one stays as it is.
 std::string Padded(std::string_view text, std::size_t width);
 
+/// Walks the pieces that Split gives without holding more than one, so that a line of nothing but
+/// separators takes no memory.
+class PieceReader {
+ public:
+  PieceReader(std::string_view text, char separator)
+      : rest_(text), separator_(separator), more_(!text.empty()) {}
+
+  /// False behind the last piece; otherwise `piece` is the next one.
+  bool Next(std::string_view& piece);
+  /// The next piece, of a text that must have it: Subscript out of range behind the last one.
+  std::string_view Required();
+
+ private:
+  std::string_view rest_;
+  char separator_;
+  bool more_;
+};
+
 /// Walks the lines of a file's text, ended by CR LF, LF or CR. An end of line at the very end of
 /// the text does not open another, empty line.
 class LineReader {

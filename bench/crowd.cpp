@@ -16,7 +16,7 @@ bool IsGearLine(std::string_view line) { return line.starts_with("Gear") && Cont
 
 std::vector<std::string> GearOfAll(FakeFiles& files) {
   std::vector<std::string> items;
-  for (const std::string& name : files.List("C:\\chars", ".ng3")) {
+  for (const std::string& name : files.List("C:\\chars", ".ng3").names) {
     for (const std::string& line : SplitIntoLines(files.ReadWhole("C:\\chars\\" + name))) {
       if (IsGearLine(line)) items.push_back(line.substr(line.find('=')));
     }
@@ -42,7 +42,7 @@ Crowd::Crowd() {
 
 void Crowd::ImportSamples() {
   Answer answer{Answer::Kind::Modal, {}, {}};
-  const int count = static_cast<int>(files.List("C:\\chars", ".ng3").size());
+  const int count = static_cast<int>(files.List("C:\\chars", ".ng3").names.size());
   for (int row = 0; row < count; ++row) {
     answer.acts.push_back({"frmLoader.filesXML_Select", row, {}});
   }

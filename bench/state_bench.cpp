@@ -11,7 +11,7 @@ constexpr const char* kPath = "C:\\tracker\\crowd.ngt";
 /// Imports nothing, so that only the state file itself is read.
 class NoImports : public StateFileHost {
  public:
-  void ImportCharacter(const std::string&) override {}
+  bool ImportCharacter(const std::string&) override { return true; }
   std::string ShowNote(const std::string&) override { return {}; }
 };
 

@@ -1,8 +1,6 @@
 #include "combat/firing.h"
 
 #include <algorithm>
-#include <array>
-#include <iterator>
 
 #include "base/number_text.h"
 #include "base/text.h"
@@ -12,22 +10,7 @@ namespace {
 
 std::size_t IndexOf(Weapon weapon) { return static_cast<std::size_t>(weapon); }
 
-/// The magazine's capacity: the digits of its text, in order.
-Integer Capacity(std::string_view magazine) {
-  std::string digits;
-  std::copy_if(magazine.begin(), magazine.end(), std::back_inserter(digits),
-               [](char c) { return c >= '0' && c <= '9'; });
-  return LenientInteger(digits);
-}
-
 }  // namespace
-
-bool IsHeavyWeapon(std::string_view caption) {
-  constexpr std::array<const char*, 6> kHeavy = {"(ShtG)", "(MMG)",  "(LMG)",
-                                                 "(HMG)",  "(ACan)", "(MinG)"};
-  return std::any_of(kHeavy.begin(), kHeavy.end(),
-                     [caption](const char* code) { return Contains(caption, code); });
-}
 
 std::string_view ClassCode(std::string_view caption) {
   const std::size_t open = caption.rfind('(');
@@ -37,32 +20,12 @@ std::string_view ClassCode(std::string_view caption) {
   return close == std::string_view::npos ? std::string_view{} : inner.substr(0, close);
 }
 
-Integer CheckPCAmbidexterity(const CharacterEntry* entry) {
-  if (entry == nullptr) return 0;
-  for (const std::string& edge : entry->edges) {
-    if (!Contains(edge, "Ambidexterity")) continue;
-    Integer level;
-    int step = 0;
-    for (const char* name :
-         {"Ambidexterity-2", "Ambidexterity-4", "Ambidexterity-6", "Ambidexterity-8"}) {
-      ++step;
-      if (Contains(edge, name)) level = step;
-    }
-    return level;
-  }
-  return 0;
-}
-
-bool Firing::HasTurn() const {
-  return fight_.CurrentPCpointer != 0 && fight_.MyTurn() && fight_.SeqNum >= 1;
-}
-
 bool Firing::MayFire(Weapon weapon) {
   if (!HasTurn()) {
     prompts_.Message("Can only shoot on PC's turn!");
     return false;
   }
-  if (AmmoLeft(weapon) <= 0) {
+  if (AmmoLeft(Displayed(), weapon) <= 0) {
     prompts_.Message("Weapon empty");
     return false;
   }
@@ -71,18 +34,17 @@ bool Firing::MayFire(Weapon weapon) {
 
 void Firing::Fire(Weapon weapon, Integer shots) {
   if (!MayFire(weapon)) return;
-  const std::size_t w = IndexOf(weapon);
-  // The magazine cuts a burst short without a word; the burst itself goes by what was asked for.
-  const Integer rounds = std::min(shots, AmmoLeft(weapon));
-  burstFire_ = shots >= 2;
-  roundsFired_[w] += rounds;
-  panel_.txtTBTT[w] = PlainText(roundsFired_[w]);
   PlayerRecord& record = Displayed();
+  // The next shot adds to the rounds that the box shows. It may show more than the record holds:
+  // the end of a turn clears the counts and displays nobody.
+  panel_.Sync(record);
+  // The magazine cuts a burst short without a word; the burst itself goes by what was asked for.
+  const Integer rounds = std::min(shots, AmmoLeft(record, weapon));
+  burstFire_ = shots >= 2;
+  CountRounds(record, weapon, rounds);
   record.FiredThisTurn = rounds > 0;
-  if (rounds > 0) {
-    panel_.txtShots[w] = PlainText(LeadingNumber(panel_.txtShots[w]) + rounds.Value());
-  }
   record.SkillWeapType = weapon == Weapon::Primary ? 1 : 2;
+  panel_.Show(record);
   UpdateWeaponModifiers();
   panel_.Sync(record);
   HandOverToRoller(weapon, rounds);
@@ -90,11 +52,11 @@ void Firing::Fire(Weapon weapon, Integer shots) {
 
 void Firing::HandOverToRoller(Weapon weapon, Integer rounds) {
   const PlayerRecord& record = Displayed();
-  const bool primary = weapon == Weapon::Primary;
+  const HandFields& hand = FieldsOf(weapon);
   roller_.BulletCount = rounds;
-  roller_.DamageCode = panel_.lblDamage[IndexOf(weapon)];
-  roller_.lblSkill = primary ? record.SkillPrimaryName : record.SkillSecondaryName;
-  roller_.skill = PlainText(primary ? record.SkillPrimaryValue : record.SkillSecondaryValue);
+  roller_.DamageCode = record.*hand.damage;
+  roller_.lblSkill = record.*hand.skillName;
+  roller_.skill = PlainText(record.*hand.skillValue);
   roller_.tabTest_Click(TestPage::Ranged);
   if (!settings_.DisableNGDR) roller_.visible = true;
 }
@@ -145,81 +107,27 @@ void Firing::Ready(Weapon weapon, std::string_view line, const RangeTable& range
   panel_.Sync(Displayed());
 }
 
-Integer Firing::AmmoLeft(Weapon weapon) const {
-  const std::size_t w = IndexOf(weapon);
-  if (panel_.lblAmmo[w].empty()) return 0;
-  return ToInteger(Capacity(panel_.lblAmmo[w]).Value() - LeadingNumber(panel_.txtShots[w]));
+PerWeapon<WeaponModifier> Firing::ModifiersOf(const PlayerRecord& record) const {
+  return WeaponModifiers(record, CheckPCAmbidexterity(characters_.Of(record)), burstFire_);
 }
 
-Integer Firing::RecoilRounds(Integer rounds) const {
-  if (rounds == 0 || rounds == 1) return 0;
-  if ((rounds == 2 || rounds == 3) && !burstFire_) return rounds - 1;
-  return rounds;
-}
-
-Integer Firing::UncompensatedRecoil(std::size_t w) const {
-  const Integer rounds = RecoilRounds(LenientInteger(panel_.txtTBTT[w]));
-  const Integer recoil =
-      ToInteger(rounds.Value() - LeadingNumber(panel_.txtRC[w]) - LeadingNumber(panel_.txtGyro[w]));
-  if (recoil < 0) return 0;
-  return IsHeavyWeapon(w == 0 ? panel_.lblPrimary : panel_.lblSecondary) ? recoil * 2 : recoil;
-}
-
-Integer Firing::SightModifier(std::size_t w) const {
-  Integer modifier;
-  if (panel_.chkSmL[w]) modifier -= 2;
-  if (panel_.chkLaserSight[w]) modifier -= 1;
-  if (panel_.chkSmtGoggles[w]) modifier -= 1;
-  return modifier;
-}
-
-void Firing::ApplyTwoGuns(PerWeapon<Integer>& modifiers) const {
-  for (Integer& modifier : modifiers) modifier += 2;
-  const PlayerRecord& record = fight_.Players[fight_.CurrentPCpointer];
-  switch (CheckPCAmbidexterity(characters_.Of(record)).Value()) {
-    case 1:
-      // Unequal on purpose: the primary takes the secondary's value less one.
-      modifiers[0] = modifiers[1] - 1;
-      break;
-    case 2:
-      modifiers[0] -= 1;
-      modifiers[1] -= 1;
-      break;
-    case 3:
-      modifiers[0] -= 2;
-      modifiers[1] -= 1;
-      break;
-    case 4:
-      modifiers[0] -= 2;
-      modifiers[1] -= 2;
-      break;
-    default:
-      break;
-  }
+PerWeapon<Integer> Firing::TotalsOf(const PlayerRecord& record) const {
+  const PerWeapon<WeaponModifier> modifiers = ModifiersOf(record);
+  return {modifiers[0].total, modifiers[1].total};
 }
 
 void Firing::UpdateWeaponModifiers() {
-  PerWeapon<Integer> modifiers;
+  if (fight_.CurrentPCpointer != 0) panel_.Sync(Displayed());
+  const PerWeapon<WeaponModifier> modifiers = ModifiersOf(Displayed());
   for (std::size_t w = 0; w < modifiers.size(); ++w) {
-    const Integer recoil = UncompensatedRecoil(w);
-    panel_.txtURC[w] = PlainText(recoil);
-    modifiers[w] = recoil + SightModifier(w);
+    panel_.txtURC[w] = PlainText(modifiers[w].recoil);
   }
-  if (panel_.chkTwoGuns) ApplyTwoGuns(modifiers);
-  const PlayerRecord& record = fight_.Players[fight_.CurrentPCpointer];
-  for (Integer& modifier : modifiers) modifier += record.TNDamMod;
-  roller_.URCprimary(modifiers[0]);
-  roller_.URCsecondary(modifiers[1]);
-  panel_.lblWPrim = SignedText(modifiers[0]);
-  panel_.lblWSec = SignedText(modifiers[1]);
+  roller_.URCprimary(modifiers[0].total);
+  roller_.URCsecondary(modifiers[1].total);
+  panel_.lblWPrim = SignedText(modifiers[0].total);
+  panel_.lblWSec = SignedText(modifiers[1].total);
   panel_.lblTNMod = "Mod:" + panel_.lblWPrim;
   if (!panel_.lblSecondary.empty()) panel_.lblTNMod += "/" + panel_.lblWSec;
-}
-
-void Firing::TakeRoundCounters() {
-  for (std::size_t w = 0; w < roundsFired_.size(); ++w) {
-    roundsFired_[w] = LenientInteger(panel_.txtTBTT[w]);
-  }
 }
 
 }  // namespace ng

@@ -4,24 +4,19 @@
 
 #include "app/settings/settings.h"
 #include "base/ports.h"
+#include "combat/recoil.h"
 #include "combat/weapons.h"
 #include "import/character_sheet.h"
 #include "import/reference_tables.h"
 #include "notes/gm_log.h"
 #include "roller/dice_roller.h"
 #include "tracker/fight/fight.h"
+#include "tracker/turn.h"
 
 namespace ng {
 
-/// Whether a weapon kicks twice as hard: shotguns, machine guns, autocannon and minigun by the
-/// class code in the caption.
-bool IsHeavyWeapon(std::string_view caption);
-
 /// The class code in the caption's last parentheses, empty when there is none.
 std::string_view ClassCode(std::string_view caption);
-
-/// The ambidexterity level 0 to 4 of a sheet, from its first edge of that name; 0 without a sheet.
-Integer CheckPCAmbidexterity(const CharacterEntry* entry);
 
 /// The two weapons of the displayed combatant: firing, reloading, and what each adds to the target
 /// number.
@@ -39,8 +34,8 @@ class Firing {
         prompts_(prompts),
         settings_(settings) {}
 
-  /// Whether the displayed combatant may attack: its turn, and a step of the combat turn taken.
-  bool HasTurn() const;
+  /// Whether the displayed combatant may attack.
+  bool HasTurn() const { return MayActNow(fight_, fight_.CurrentPCpointer); }
   /// The last firing action was for two rounds or more.
   Boolean BurstFire() const { return burstFire_; }
 
@@ -55,23 +50,16 @@ class Firing {
   /// Takes a line of the weapon list into the hand, with the ranges of its class.
   void Ready(Weapon weapon, std::string_view line, const RangeTable& ranges);
 
-  /// Rounds left in the magazine; 0 when it has no text.
-  Integer AmmoLeft(Weapon weapon) const;
-  /// Works out recoil and the total modifier of both weapons and shows them.
+  /// Works out recoil and the total modifier of both weapons, shows them and hands them to the dice
+  /// roller.
   void UpdateWeaponModifiers();
-
-  /// The rounds fired this turn follow the boxes: another combatant is displayed, or the game
-  /// master typed a number.
-  void TakeRoundCounters();
-  void ZeroRoundCounters() { roundsFired_ = {}; }
+  /// The total modifiers of a combatant's two weapons.
+  PerWeapon<Integer> TotalsOf(const PlayerRecord& record) const;
 
  private:
   PlayerRecord& Displayed() { return fight_.Players[fight_.CurrentPCpointer]; }
+  PerWeapon<WeaponModifier> ModifiersOf(const PlayerRecord& record) const;
   bool MayFire(Weapon weapon);
-  Integer RecoilRounds(Integer rounds) const;
-  Integer UncompensatedRecoil(std::size_t w) const;
-  Integer SightModifier(std::size_t w) const;
-  void ApplyTwoGuns(PerWeapon<Integer>& modifiers) const;
   void HandOverToRoller(Weapon weapon, Integer rounds);
 
   Fight& fight_;
@@ -81,8 +69,6 @@ class Firing {
   GmLog& log_;
   Prompts& prompts_;
   const Settings& settings_;
-  /// Rounds fired this turn by each weapon.
-  PerWeapon<Integer> roundsFired_;
   Boolean burstFire_;
 };
 

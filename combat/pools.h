@@ -1,7 +1,10 @@
 #pragma once
 
+#include <array>
+#include <span>
 #include <string>
 
+#include "combat/bound_control.h"
 #include "tracker/fight/player_record.h"
 
 namespace ng {
@@ -21,8 +24,18 @@ struct PoolPanel {
   std::string txtAS;
   std::string txtKP;
 
-  void Show(const PlayerRecord& record);
-  void Sync(PlayerRecord& record) const;
+  static std::span<const BoundControl<PoolPanel>> Bound() {
+    static constexpr auto rows =
+        std::to_array({Bind<&PoolPanel::txtCP, &PlayerRecord::CP>("txtCP", "combat pool"),
+                       Bind<&PoolPanel::txtSP, &PlayerRecord::SP>("txtSP", "spell pool"),
+                       Bind<&PoolPanel::txtSD, &PlayerRecord::SD>("txtSD", "dice set aside"),
+                       Bind<&PoolPanel::txtAS, &PlayerRecord::AS>("txtAS", "astral pool"),
+                       Bind<&PoolPanel::txtKP, &PlayerRecord::KP>("txtKP", "karma pool")});
+    return rows;
+  }
+
+  void Show(const PlayerRecord& record) { ShowBound(*this, record); }
+  void Sync(PlayerRecord& record) const { StoreBound(*this, record); }
 
   /// Moves one die from the spell pool to those set aside, or back; nothing when the box it comes
   /// from has none.

@@ -6,25 +6,6 @@ namespace {
 template <typename T>
 using Member = T PlayerRecord::*;
 
-/// A control of the panel with the record's fields of the two weapons.
-struct TextPair {
-  PerWeapon<std::string> WeaponPanel::*control;
-  PerWeapon<Member<std::string>> fields;
-};
-struct CheckPair {
-  PerWeapon<bool> WeaponPanel::*control;
-  PerWeapon<Member<Integer>> fields;
-};
-
-/// The boxes that the game master edits.
-constexpr std::array<TextPair, 5> kBoxes = {{
-    {&WeaponPanel::txtShots, {&PlayerRecord::PrimAmmo, &PlayerRecord::SecAmmo}},
-    {&WeaponPanel::txtTBTT, {&PlayerRecord::TBTTPrim, &PlayerRecord::TBTTSec}},
-    {&WeaponPanel::txtRC, {&PlayerRecord::RCPrim, &PlayerRecord::RCSec}},
-    {&WeaponPanel::txtGyro, {&PlayerRecord::GyroPrim, &PlayerRecord::GyroSec}},
-    {&WeaponPanel::txtURC, {&PlayerRecord::URCPrim, &PlayerRecord::URCSec}},
-}};
-
 /// The figures of a weapon in hand: the record's field, the label, and where it is put from.
 struct FigureFields {
   PerWeapon<Member<std::string>> fields;
@@ -51,15 +32,24 @@ constexpr PerWeapon<std::array<Member<std::string>, kRanges>> kRangeFields = {{
      &PlayerRecord::SecWeapStatRng4},
 }};
 
-constexpr std::array<CheckPair, 3> kSights = {{
-    {&WeaponPanel::chkSmL, {&PlayerRecord::SmLPrim, &PlayerRecord::SmLSec}},
-    {&WeaponPanel::chkLaserSight, {&PlayerRecord::LaserPrim, &PlayerRecord::LaserSec}},
-    {&WeaponPanel::chkSmtGoggles, {&PlayerRecord::SmtGogPrim, &PlayerRecord::SmtGogSec}},
-}};
-
-constexpr PerWeapon<std::size_t> kBoth = {0, 1};
+/// The check boxes of the sights, in the order of Sight.
+constexpr std::array<PerWeapon<bool> WeaponPanel::*, 3> kSights = {
+    &WeaponPanel::chkSmL, &WeaponPanel::chkLaserSight, &WeaponPanel::chkSmtGoggles};
 
 }  // namespace
+
+const HandFields& FieldsOf(Weapon weapon) {
+  using R = PlayerRecord;
+  static constexpr PerWeapon<HandFields> kFields = {{
+      {&R::PrimHand, &R::PrimWeapStatDamage, &R::PrimWeapStatAmmo, &R::PrimAmmo, &R::TBTTPrim,
+       &R::RCPrim, &R::GyroPrim, &R::SmLPrim, &R::LaserPrim, &R::SmtGogPrim, &R::SkillPrimaryName,
+       &R::SkillPrimaryValue, &R::RangeSelPrim},
+      {&R::SecHand, &R::SecWeapStatDamage, &R::SecWeapStatAmmo, &R::SecAmmo, &R::TBTTSec, &R::RCSec,
+       &R::GyroSec, &R::SmLSec, &R::LaserSec, &R::SmtGogSec, &R::SkillSecondaryName,
+       &R::SkillSecondaryValue, &R::RangeSelSec},
+  }};
+  return kFields[static_cast<std::size_t>(weapon)];
+}
 
 void SetWeapon(PlayerRecord& record, Weapon weapon, const WeaponFigures& figures) {
   const auto w = static_cast<std::size_t>(weapon);
@@ -68,16 +58,27 @@ void SetWeapon(PlayerRecord& record, Weapon weapon, const WeaponFigures& figures
   for (std::size_t i = 0; i < kRanges; ++i) record.*kRangeFields[w][i] = figures.ranges[i];
 }
 
+std::span<const BoundControl<WeaponPanel>> WeaponPanel::Bound() {
+  using P = WeaponPanel;
+  using R = PlayerRecord;
+  static constexpr auto rows = std::to_array({
+      Bind<&P::txtShots, &R::PrimAmmo, &R::SecAmmo>("txtShots", "{hand} rounds fired"),
+      Bind<&P::txtTBTT, &R::TBTTPrim, &R::TBTTSec>("txtTBTT", "{hand} rounds this turn"),
+      Bind<&P::txtRC, &R::RCPrim, &R::RCSec>("txtRC", "{hand} recoil compensation"),
+      Bind<&P::txtGyro, &R::GyroPrim, &R::GyroSec>("txtGyro", "{hand} gyro compensation"),
+      BindStored<&P::txtURC, &R::URCPrim, &R::URCSec>("txtURC"),
+      BindStored<&P::chkSmL, &R::SmLPrim, &R::SmLSec>("chkSmL"),
+      BindStored<&P::chkLaserSight, &R::LaserPrim, &R::LaserSec>("chkLaserSight"),
+      BindStored<&P::chkSmtGoggles, &R::SmtGogPrim, &R::SmtGogSec>("chkSmtGoggles"),
+      Bind<&P::chkTwoGuns, &R::TwoGuns>("chkTwoGuns", "two guns"),
+  });
+  return rows;
+}
+
 void WeaponPanel::Show(const PlayerRecord& record) {
-  for (const std::size_t w : kBoth) {
-    ShowWeapon(record, static_cast<Weapon>(w));
-    for (const TextPair& box : kBoxes) (this->*box.control)[w] = record.*box.fields[w];
-    for (const CheckPair& sight : kSights) {
-      (this->*sight.control)[w] = record.*sight.fields[w] != 0;
-    }
-  }
+  for (const Weapon weapon : {Weapon::Primary, Weapon::Secondary}) ShowWeapon(record, weapon);
+  ShowBound(*this, record);
   optRangeSel = {record.RangeSelPrim.Value(), record.RangeSelSec.Value()};
-  chkTwoGuns = record.TwoGuns != 0;
 }
 
 void WeaponPanel::ShowWeapon(const PlayerRecord& record, Weapon weapon) {
@@ -90,22 +91,14 @@ void WeaponPanel::ShowWeapon(const PlayerRecord& record, Weapon weapon) {
 
 void WeaponPanel::ClickSight(Weapon weapon, Sight sight) {
   const auto w = static_cast<std::size_t>(weapon);
-  const auto chosen = static_cast<std::size_t>(sight);
-  const bool checked = !(this->*kSights[chosen].control)[w];
+  bool& chosen = (this->*kSights[static_cast<std::size_t>(sight)])[w];
+  const bool checked = !chosen;
   if (checked) {
-    for (const CheckPair& other : kSights) (this->*other.control)[w] = false;
+    for (const auto other : kSights) (this->*other)[w] = false;
   }
-  (this->*kSights[chosen].control)[w] = checked;
+  chosen = checked;
 }
 
-void WeaponPanel::Sync(PlayerRecord& record) const {
-  for (const std::size_t w : kBoth) {
-    for (const TextPair& box : kBoxes) record.*box.fields[w] = (this->*box.control)[w];
-    for (const CheckPair& sight : kSights) {
-      record.*sight.fields[w] = (this->*sight.control)[w] ? 1 : 0;
-    }
-  }
-  record.TwoGuns = chkTwoGuns ? 1 : 0;
-}
+void WeaponPanel::Sync(PlayerRecord& record) const { StoreBound(*this, record); }
 
 }  // namespace ng

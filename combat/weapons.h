@@ -1,9 +1,11 @@
 #pragma once
 
 #include <array>
+#include <span>
 #include <string>
 
 #include "base/integer.h"
+#include "combat/bound_control.h"
 #include "tracker/fight/player_record.h"
 
 namespace ng {
@@ -14,6 +16,27 @@ using PerWeapon = std::array<T, 2>;
 
 /// The four range brackets.
 constexpr std::size_t kRanges = 4;
+
+/// The record's fields of one hand.
+struct HandFields {
+  std::string PlayerRecord::*caption;
+  std::string PlayerRecord::*damage;
+  /// Magazine text ("30(c)").
+  std::string PlayerRecord::*ammunition;
+  /// Rounds fired since the last reload, and in this turn.
+  std::string PlayerRecord::*shots;
+  std::string PlayerRecord::*roundsThisTurn;
+  std::string PlayerRecord::*recoilCompensation;
+  std::string PlayerRecord::*gyro;
+  Integer PlayerRecord::*smartlink;
+  Integer PlayerRecord::*laserSight;
+  Integer PlayerRecord::*smartGoggles;
+  std::string PlayerRecord::*skillName;
+  Integer PlayerRecord::*skillValue;
+  /// 0 short to 3 extreme.
+  Integer PlayerRecord::*range;
+};
+const HandFields& FieldsOf(Weapon weapon);
 
 /// What a weapon in the hand is described by.
 struct WeaponFigures {
@@ -59,6 +82,8 @@ struct WeaponPanel {
   std::string lblWPrim;
   std::string lblWSec;
   std::string lblTNMod;
+
+  static std::span<const BoundControl<WeaponPanel>> Bound();
 
   /// Fills every control from a record.
   void Show(const PlayerRecord& record);

@@ -6,6 +6,7 @@
 
 #include "fuzz/one_file.h"
 #include "import/character_import.h"
+#include "import/item_figures.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   ng::OneFile files(std::string(reinterpret_cast<const char*>(data), size));
@@ -16,6 +17,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const auto gear = std::make_unique<ng::GearTable>(ng::LoadGearTable(files, "").table);
   try {
     ng::LoadCharacterFile({files, settings, *gear, *fight, *characters}, "one.ng3");
+    const ng::CharacterEntry& entry = characters->entries[1];
+    for (const ng::CarriedLine& line : entry.gear) ng::FiguresOf(*gear, entry, line);
+    for (const ng::CarriedLine& line : entry.weapons) ng::FiguresOf(*gear, entry, line);
   } catch (const ng::RuntimeError&) {
     if (fight->CountPlayers() != 0) __builtin_trap();
   }

@@ -16,7 +16,7 @@ class OneFile : public Files {
   std::string ReadWhole(const std::string&) override { return bytes_; }
   void Replace(const std::string&, std::string_view) override {}
   void Append(const std::string&, std::string_view) override {}
-  std::vector<std::string> List(const std::string&, std::string_view) override { return {}; }
+  FileList List(const std::string&, std::string_view) override { return {}; }
 
  private:
   std::string bytes_;

@@ -18,6 +18,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   ng::LoadVisability(files, "");
   const auto index = std::make_unique<ng::InfoIndex>();
   index->Load(files, {"info.dat"});
-  for (const int entry : index->Matching("")) index->EntryLines(files, entry);
+  for (const int entry : index->Matching("")) index->EntryText(files, entry);
   return 0;
 }

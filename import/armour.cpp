@@ -66,11 +66,16 @@ ArmourFigures DeriveArmour(const CharacterEntry& entry) {
   const Integer quickness =
       LenientInteger(AugmentedValue(entry.AttributeText(Attribute::Quickness)));
   const Integer excess = std::max(figures.ballistic, figures.impact) - quickness;
-  figures.combatPoolModifier = std::max(excess.Value(), 0) / 2;
-  figures.quicknessModifier = std::max<Integer>(plainBallistic - quickness, 0);
+  figures.combatPoolModifier = AtLeast(excess, 0).Value() / 2;
+  figures.quicknessModifier = AtLeast(plainBallistic - quickness, 0);
   const LoadWeights weights = WeightsOf(entry);
   figures.weight = weights.armour + weights.weapons + weights.gear;
   return figures;
+}
+
+ArmourFigures ArmourOf(const PlayerRecord& record) {
+  return {record.ArmorBAL, record.ArmorIMP, record.ArmorCPmod, record.ArmorQCKmod,
+          LeadingNumber(record.LastWeight)};
 }
 
 void StoreArmour(PlayerRecord& record, const ArmourFigures& figures) {

@@ -37,6 +37,9 @@ bool IsBoneLace(const CarriedLine& line);
 /// 3.5 gives 4).
 ArmourFigures DeriveArmour(const CharacterEntry& entry);
 
+/// The figures that a record holds.
+ArmourFigures ArmourOf(const PlayerRecord& record);
+
 /// Writes the figures into the record, the weight as plain text into `LastWeight`.
 void StoreArmour(PlayerRecord& record, const ArmourFigures& figures);
 

@@ -74,12 +74,16 @@ void ReadPools(const CharacterText& file, CharacterEntry& entry) {
   entry.astralPool = file.Value("Magic", "DicePoolAstral");
 }
 
-/// Adds a value under its heading; its further lines follow, indented.
+/// More lines than any spell, power or implant has.
+constexpr int kMostLines = 100;
+
+/// Adds a value under its heading; its further lines follow, indented. A value of nothing but line
+/// breaks would fill the list with thousands of empty lines: those past the hundredth are left out.
 void AddLines(std::vector<std::string>& list, std::string_view heading, std::string_view value) {
   LineReader lines(value);
   std::string_view line;
   std::string_view lead = heading;
-  while (lines.Next(line)) {
+  for (int count = 0; count < kMostLines && lines.Next(line); ++count) {
     list.push_back(std::string(lead).append(line));
     lead = "    ";
   }

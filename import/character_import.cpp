@@ -1,5 +1,6 @@
 #include "import/character_import.h"
 
+#include <optional>
 #include <utility>
 
 #include "app/settings/profile_file.h"
@@ -13,18 +14,19 @@ namespace ng {
 namespace {
 
 /// How many combatants came from this file already.
-Integer EarlierImports(Fight& fight, const std::string& fullName) {
-  const Integer n = fight.CountPlayers();
+Integer EarlierImports(const Fight& fight, const std::string& fullName) {
   Integer count;
-  for (int slot = 1; slot <= n; ++slot) {
+  for (const Slot slot : SlotsUpTo(fight.CountPlayers())) {
     if (fight.Players[slot].Filename == fullName) count += 1;
   }
   return count;
 }
 
 ImportedCharacter ReadCharacter(const ImportTarget& target, const std::string& fullName) {
-  ProfileFile file(ReadProfileText(target.files, fullName));
+  std::optional<std::string> text = ReadProfileText(target.files, fullName);
   ImportedCharacter character;
+  character.entry.unread = !text;
+  ProfileFile file(std::move(text).value_or(std::string()));
   PlayerRecord& record = character.record;
   record.Name = ImportedName(file);
   record.Filename = fullName;
@@ -61,9 +63,11 @@ void TakeSlot(Fight& fight, Slot slot, PlayerRecord record) {
   const Integer earlier = EarlierImports(fight, record.Filename);
   if (earlier > 0) record.Name += "::" + PlainText(earlier);
   fight.Players[slot] = std::move(record);
+  fight.Recount();
   // A nameless combatant is not counted and so stands in no place of the order.
-  const OrderPosition last = fight.CountPlayers();
-  if (!fight.Players[slot].Name.empty()) fight.InitOrder[last] = slot;
+  if (!fight.Players[slot].Name.empty()) {
+    fight.InitOrder[OrderPosition::From(fight.NumPlayers)] = slot;
+  }
 }
 
 }  // namespace

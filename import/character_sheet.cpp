@@ -9,7 +9,7 @@
 namespace ng {
 
 CharacterIndex CharacterTable::FindFree() const {
-  int index = 1;
+  CharacterIndex index = 1;
   while (!entries[index].Filename.empty()) ++index;
   return index;
 }
@@ -55,19 +55,19 @@ std::string AugmentedValue(std::string_view attributeText) {
 }
 
 void RefillPools(PlayerRecord& record, const CharacterEntry& entry) {
+  record.TBTTPrim = "0";
+  record.TBTTSec = "0";
+  if (entry.unread) return;
   const Integer combat = LenientInteger(entry.pools[0]);
   const Integer sheetSpell = LenientInteger(entry.spellPool);
   const Integer spell = sheetSpell != 0 ? sheetSpell : LenientInteger(entry.pools[3]);
-  record.CP = std::max<Integer>(combat - record.ArmorCPmod, 0);
-  record.SP = std::max<Integer>(spell - record.SD, 0);
+  record.CP = AtLeast(combat - record.ArmorCPmod, 0);
+  record.SP = AtLeast(spell - record.SD, 0);
   record.AS = LenientInteger(entry.astralPool);
-  record.TBTTPrim = "0";
-  record.TBTTSec = "0";
 }
 
 void RefreshPools(Fight& fight, const CharacterTable& characters) {
-  const Integer n = fight.CountPlayers();
-  for (int slot = 1; slot <= n; ++slot) {
+  for (const Slot slot : SlotsUpTo(fight.CountPlayers())) {
     PlayerRecord& record = fight.Players[slot];
     if (const CharacterEntry* entry = characters.Of(record)) RefillPools(record, *entry);
   }

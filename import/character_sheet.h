@@ -48,6 +48,8 @@ constexpr std::array<const char*, 6> kPoolKeys = {"Combat", "Control", "Hacking"
 /// too, so that it survives a look at somebody else.
 struct CharacterEntry {
   std::string Filename;
+  /// The file could not be read: this is the empty sheet of a nameless combatant.
+  bool unread = false;
   /// The file as it was read, for what is asked of it later.
   std::string fileText;
   /// As FormatAttribute gives them.
@@ -82,7 +84,7 @@ struct CharacterEntry {
 
 /// The imported sheets, 1 to 50; a place whose `Filename` is empty is free.
 struct CharacterTable {
-  FixedTable<CharacterEntry, 50> entries;
+  FixedTable<CharacterEntry, 50, CharacterIndex> entries;
 
   /// The first free place; Subscript out of range when all 50 are taken.
   CharacterIndex FindFree() const;
@@ -105,7 +107,8 @@ std::string FormatAttribute(std::string_view attributeValue);
 std::string AugmentedValue(std::string_view attributeText);
 
 /// Refills the combat, spell and astral pools from the sheet: combat less `ArmorCPmod`, spell less
-/// the dice set aside, neither below 0. The weapons' rounds of the turn start at "0".
+/// the dice set aside, neither below 0. A sheet that could not be read leaves them as they are. The
+/// weapons' rounds of the turn start at "0".
 void RefillPools(PlayerRecord& record, const CharacterEntry& entry);
 
 /// RefillPools for the combatants of slots 1 to CountPlayers() that have a sheet.

@@ -21,7 +21,7 @@ std::string ItemText(const CharacterEntry& entry, int number) {
 std::string ColumnName(const GearCategory& layout, std::size_t field) {
   const int index = static_cast<int>(field);
   if (layout.columnCount <= 0) return "Field " + std::to_string(index);
-  const Integer last = std::min<Integer>(layout.columnCount, layout.columns.kLast);
+  const Integer last = AtMost(layout.columnCount, layout.columns.kLast);
   return index <= last.Value() ? layout.columns[index] : std::string();
 }
 

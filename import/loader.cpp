@@ -3,6 +3,16 @@
 #include "base/runtime_error.h"
 
 namespace ng {
+namespace {
+
+std::string UnlistedText(int count) {
+  if (count == 0) return {};
+  if (count == 1) return "1 file not listed: its name has characters this program cannot write";
+  return std::to_string(count) +
+         " files not listed: their names have characters this program cannot write";
+}
+
+}  // namespace
 
 bool IsAbsolute(std::string_view name) {
   return name.find(':') != std::string_view::npos || name.starts_with('/');
@@ -10,6 +20,10 @@ bool IsAbsolute(std::string_view name) {
 
 std::string FullCharacterName(const std::string& characterDirectory, const std::string& name) {
   return IsAbsolute(name) ? name : characterDirectory + "\\" + name;
+}
+
+std::string ImportName(const std::string& characterDirectory, const std::string& name) {
+  return IsAbsolute(name) ? characterDirectory + "\\" + name : name;
 }
 
 void LoaderForm::Form_Load() {
@@ -56,9 +70,9 @@ LoaderForm::File& LoaderForm::FileAt(int index) {
 
 void LoaderForm::ListFiles() {
   filesXML.clear();
-  for (std::string& name : files_.List(DirListBox, ".ng3")) {
-    filesXML.push_back({std::move(name), false});
-  }
+  FileList list = files_.List(DirListBox, ".ng3");
+  for (std::string& name : list.names) filesXML.push_back({std::move(name), false});
+  lblUnlisted = UnlistedText(list.unlisted);
 }
 
 }  // namespace ng

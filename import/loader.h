@@ -15,6 +15,10 @@ bool IsAbsolute(std::string_view name);
 /// The full name of a character file.
 std::string FullCharacterName(const std::string& characterDirectory, const std::string& name);
 
+/// The name by which a file of the character directory is imported: its name alone, but the full
+/// one where the name alone would stand for itself.
+std::string ImportName(const std::string& characterDirectory, const std::string& name);
+
 /// The modal dialog in which character files are picked: the form behind frmLoader.
 class LoaderForm {
  public:
@@ -38,6 +42,8 @@ class LoaderForm {
   std::string Drive1;
   std::string DirListBox;
   std::vector<File> filesXML;
+  /// Says how many files the list leaves out; empty when it shows them all.
+  std::string lblUnlisted;
   /// The picked names, each followed by "|"; empty when nothing is to be imported.
   std::string selectionList;
   /// The dialog is open until one of its buttons closes it.

@@ -33,22 +33,17 @@ Loaded<Table> LoadTable(Files& files, const std::string& path, const char* error
   return loaded;
 }
 
-/// A field that the line must have.
-std::string_view Required(const std::vector<std::string_view>& fields, std::size_t index) {
-  if (index >= fields.size()) ThrowSubscript();
-  return fields[index];
-}
-
 void TakeGearLine(GearTable& table, std::string_view line) {
   // Item lines begin with a digit 1 to 9; whatever else begins a line reads as 0, a header.
   if (line.empty() || (line.front() >= '1' && line.front() <= '9')) return;
-  const std::vector<std::string_view> fields = Split(line, '|');
-  const std::vector<std::string_view> codes = Split(Required(fields, 0), '-');
-  GearCategory& category = table.categories[LenientInteger(Required(codes, 1))];
-  category.name = Required(fields, 1);
-  category.columnCount = StrictInteger(Required(fields, 2));
+  PieceReader fields(line, '|');
+  PieceReader codes(fields.Required(), '-');
+  codes.Required();
+  GearCategory& category = table.categories[LenientInteger(codes.Required())];
+  category.name = fields.Required();
+  category.columnCount = StrictInteger(fields.Required());
   for (int column = 1; column <= category.columnCount; ++column) {
-    category.columns[column] = Required(fields, static_cast<std::size_t>(column) + 2);
+    category.columns[column] = fields.Required();
   }
   table.headerCount += 1;
 }
@@ -66,25 +61,21 @@ void FindPositions(GearTable& table) {
 }
 
 void TakeRangeLine(RangeTable& table, std::string_view line) {
-  const std::vector<std::string_view> fields = Split(line, '|');
+  PieceReader fields(line, '|');
   RangeEntry& entry = table.entries[table.count];
-  entry.code = Padded(Required(fields, 0).substr(0, kCodeWidth), kCodeWidth);
-  entry.name = Required(fields, 1);
-  for (std::size_t i = 0; i < entry.limits.size(); ++i) {
-    entry.limits[i] = StrictInteger(Required(fields, i + 2));
-  }
+  entry.code = Padded(fields.Required().substr(0, kCodeWidth), kCodeWidth);
+  entry.name = fields.Required();
+  for (Integer& limit : entry.limits) limit = StrictInteger(fields.Required());
   if (table.count > 0) table.names += '|';
   table.names += entry.name;
   table.count += 1;
 }
 
 void TakeSkillLine(SkillTable& table, std::string_view line) {
-  const std::vector<std::string_view> fields = Split(line, '|');
+  PieceReader fields(line, '|');
   SkillConversion& entry = table.entries[table.lastIndex + 1];
-  entry.code = Required(fields, 0);
-  for (const std::string_view text : Split(Required(fields, 1), ',')) {
-    entry.texts.emplace_back(text);
-  }
+  entry.code = fields.Required();
+  entry.texts = fields.Required();
   table.lastIndex += 1;
 }
 
@@ -116,8 +107,7 @@ const GearCategory& LayoutOf(const GearTable& table, Integer category) {
 
 int GearColumnIndex(const GearTable& table, Integer category, std::string_view column) {
   const GearCategory& layout = LayoutOf(table, category);
-  for (int index = 1; index <= std::min<Integer>(layout.columnCount, layout.columns.kLast);
-       ++index) {
+  for (int index = 1; index <= AtMost(layout.columnCount, layout.columns.kLast); ++index) {
     if (layout.columns[index] == column) return index;
   }
   return -1;
@@ -128,7 +118,8 @@ std::string_view GearField(std::string_view fields, int index) { return Piece(fi
 std::string ConvertSkill(const SkillTable& table, std::string_view name) {
   for (int index = 0; index <= table.lastIndex; ++index) {
     const SkillConversion& entry = table.entries[index];
-    for (const std::string& text : entry.texts) {
+    PieceReader texts(entry.texts, ',');
+    for (std::string_view text; texts.Next(text);) {
       if (Contains(name, text)) return entry.code;
     }
   }

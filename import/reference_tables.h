@@ -3,7 +3,6 @@
 #include <array>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "base/fixed_table.h"
 #include "base/integer.h"
@@ -77,7 +76,8 @@ struct RangeTable {
 /// A weapon-type code and the texts by which a skill's name is recognised.
 struct SkillConversion {
   std::string code;
-  std::vector<std::string> texts;
+  /// Parted by ",", as in the file.
+  std::string texts;
 };
 
 struct SkillTable {

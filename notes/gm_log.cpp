@@ -6,16 +6,17 @@
 
 namespace ng {
 
-GmLog::GmLog(Files& files, std::string path, std::function<void(const std::string&)> reportFailure)
-    : files_(files), path_(std::move(path)), reportFailure_(std::move(reportFailure)) {}
+GmLog::GmLog(Files& files, std::string path) : files_(files), path_(std::move(path)) {}
 
 void GmLog::Add(const std::string& line) {
   lstGMinfo_.push_back(line);
   try {
     files_.Append(path_, line + "\r\n");
+    lastFailure_.clear();
   } catch (const RuntimeError& error) {
-    if (!failureReported_) reportFailure_(std::string("The log is not written: ") + error.what());
-    failureReported_ = true;
+    const std::string failure = std::string("Log not written: ") + error.what();
+    if (failure != lastFailure_) lblLogFailure_ = failure;
+    lastFailure_ = failure;
   }
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -9,23 +8,31 @@
 namespace ng {
 
 /// The game master's running list of notes. Every line also goes to the end of the log file, so
-/// that the evening can be read over later.
+/// that the session can be read again later.
 class GmLog {
  public:
-  /// `reportFailure` hears, once in a run, that the file at `path` cannot be written; the list goes
-  /// on without it, and no command is stopped.
-  GmLog(Files& files, std::string path, std::function<void(const std::string&)> reportFailure);
+  /// The log file is at `path`.
+  GmLog(Files& files, std::string path);
 
   /// The lines in the order added.
   const std::vector<std::string>& lstGMinfo() const { return lstGMinfo_; }
+  const std::string& Path() const { return path_; }
+  /// Adds a line. A file that cannot be written stops neither the list nor the command.
   void Add(const std::string& line);
+
+  /// That the file could not be written, and why ("Log not written: Disk full"), until it has been
+  /// seen; otherwise empty.
+  const std::string& lblLogFailure() const { return lblLogFailure_; }
+  /// The game master has seen the failure. The same one is reported again only after a line that
+  /// was written.
+  void FailureSeen() { lblLogFailure_.clear(); }
 
  private:
   Files& files_;
   std::string path_;
-  std::function<void(const std::string&)> reportFailure_;
-  bool failureReported_ = false;
   std::vector<std::string> lstGMinfo_;
+  std::string lblLogFailure_;
+  std::string lastFailure_;
 };
 
 }  // namespace ng

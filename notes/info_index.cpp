@@ -58,32 +58,24 @@ int InfoIndex::Find(std::string_view name) const {
   return -1;
 }
 
-std::vector<std::string> InfoIndex::EntryLines(Files& files, int index) const {
+std::string InfoIndex::EntryText(Files& files, int index) const {
   const Integer wanted = At(index).line;
   const std::string text = files.ReadWhole(fileName_);
   LineReader lines(text);
   std::string_view line;
-  std::vector<std::string> result;
+  std::string result;
   if (wanted == 0) return result;
   for (int number = 1; lines.Next(line); ++number) {
     if (number < wanted.Value()) continue;
     if (number == wanted.Value()) {
-      result.emplace_back(AfterFirstBar(line));
+      result = AfterFirstBar(line);
       continue;
     }
     if (IsEntry(line)) break;
-    result.emplace_back(line);
+    if (!result.empty()) result += "\r\n";
+    result += line;
   }
   return result;
-}
-
-std::string InfoIndex::EntryText(Files& files, int index) const {
-  std::string text;
-  for (const std::string& line : EntryLines(files, index)) {
-    if (!text.empty()) text += "\r\n";
-    text += line;
-  }
-  return text;
 }
 
 }  // namespace ng

@@ -21,8 +21,8 @@ class InfoIndex {
   };
 
   /// Reads the first of `paths` that can be read; nothing is reported when none can, since the
-  /// index is an aid. Returns the message to show, empty when all went well; the 201st entry ends
-  /// the loading with one and stays.
+  /// index is an aid. Returns the message to show, empty when all went well; the 201st entry
+  /// is kept and ends the loading with a message.
   std::string Load(Files& files, const std::vector<std::string>& paths);
 
   int Count() const { return count_; }
@@ -36,11 +36,9 @@ class InfoIndex {
   int Find(std::string_view name) const;
 
   /// What the file says about an entry: the text behind the first "|" of its line and the lines
-  /// that follow, comments included, up to the next entry. The file is read again; none when it has
-  /// become too short or the entry is not there. Throws the platform's file errors, Subscript out
-  /// of range for an index outside 0 to 200.
-  std::vector<std::string> EntryLines(Files& files, int index) const;
-  /// The same as one text, its lines ended by CR LF.
+  /// that follow, comments included, up to the next entry, parted by CR LF. The file is read again;
+  /// empty when it has become too short or the entry is not there. Throws the file
+  /// errors, Subscript out of range for an index outside 0 to 200.
   std::string EntryText(Files& files, int index) const;
 
  private:

@@ -22,13 +22,4 @@ void ReferenceForm::lstNames_Select(int index) {
   if (there) txtEntry = info_.EntryText(files_, entries_[static_cast<std::size_t>(index)]);
 }
 
-bool ReferenceForm::ShowEntry(const std::string& name) {
-  const int entry = info_.Find(name);
-  if (entry < 0) return false;
-  txtFilter.clear();
-  Form_Load();
-  lstNames_Select(entry);
-  return true;
-}
-
 }  // namespace ng

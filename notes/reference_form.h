@@ -25,8 +25,6 @@ class ReferenceForm {
   /// Lists the entries whose name contains the text.
   void txtFilter_Change(const std::string& text);
   void lstNames_Select(int index);
-  /// Opens at the entry of this name, if there is one. Returns whether there is.
-  bool ShowEntry(const std::string& name);
 
  private:
   const InfoIndex& info_;

@@ -17,28 +17,37 @@ fs::path FromText(std::string_view text) {
   return fs::path(std::u8string(utf8.begin(), utf8.end()));
 }
 
-/// ASCII letters fold; the others must match.
-bool SameIgnoringCase(const fs::path& a, const fs::path& b) {
-  const std::u8string x = a.u8string();
-  const std::u8string y = b.u8string();
-  return EqualIgnoringCase({reinterpret_cast<const char*>(x.data()), x.size()},
-                           {reinterpret_cast<const char*>(y.data()), y.size()});
+constexpr char kPlaceholder = '?';
+
+bool CanStandInPath(char c) {
+  const auto code = static_cast<unsigned char>(c);
+  if (code < 0x20 || code == 0x7F || c == '|') return false;
+  return c != '\\' || fs::path::preferred_separator == '\\';
 }
 
 /// The entry of `directory` that has this name but for its case. Of several the first in the order
-/// of their names, so that the choice does not hang on the file system.
-fs::path FoundIgnoringCase(const fs::path& directory, const fs::path& name) {
+/// of their names, so that the choice does not depend on the file system. What a placeholder stands
+/// for is not guessed: it must leave one entry alone.
+fs::path FoundByText(const fs::path& directory, const fs::path& name) {
+  const std::string wanted = PathText(name);
   std::error_code error;
   fs::path found;
+  int count = 0;
   const fs::path listed = directory.empty() ? fs::path(".") : directory;
   for (fs::directory_iterator entry(listed, error), end; !error && entry != end;
        entry.increment(error)) {
     const fs::path candidate = entry->path().filename();
-    if (SameIgnoringCase(candidate, name) && (found.empty() || candidate < found)) {
-      found = candidate;
-    }
+    if (!EqualIgnoringCase(PathText(candidate), wanted)) continue;
+    ++count;
+    if (found.empty() || candidate < found) found = candidate;
   }
-  return found.empty() ? name : found;
+  return count == 0 || (count > 1 && HasPlaceholder(wanted)) ? name : found;
+}
+
+/// Whether the path is there by exactly this name.
+bool IsThere(const fs::path& path, std::string_view text) {
+  std::error_code error;
+  return !HasPlaceholder(text) && fs::exists(path, error);
 }
 
 }  // namespace
@@ -49,14 +58,25 @@ fs::path NativePath(std::string_view text) {
     std::replace(separated.begin(), separated.end(), '\\', '/');
   }
   fs::path exact = FromText(separated);
-  std::error_code error;
-  if (exact.empty() || fs::exists(exact, error)) return exact;
+  if (exact.empty() || IsThere(exact, separated)) return exact;
   fs::path resolved;
   for (const fs::path& part : exact) {
     const fs::path next = resolved / part;
-    resolved = fs::exists(next, error) ? next : resolved / FoundIgnoringCase(resolved, part);
+    resolved = IsThere(next, PathText(part)) ? next : resolved / FoundByText(resolved, part);
   }
   return resolved;
+}
+
+std::string PathText(const fs::path& native) {
+  const std::u8string utf8 = native.u8string();
+  std::string text = FromUtf8({reinterpret_cast<const char*>(utf8.data()), utf8.size()});
+  std::replace_if(
+      text.begin(), text.end(), [](char c) { return !CanStandInPath(c); }, kPlaceholder);
+  return text;
+}
+
+bool HasPlaceholder(std::string_view pathText) {
+  return pathText.find(kPlaceholder) != std::string_view::npos;
 }
 
 }  // namespace ng

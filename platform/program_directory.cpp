@@ -3,17 +3,12 @@
 #include <QStandardPaths>
 #include <system_error>
 
-#include "base/code_page.h"
+#include "platform/native_path.h"
 
 namespace ng {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string PathText(const fs::path& path) {
-  const std::u8string utf8 = path.u8string();
-  return FromUtf8({reinterpret_cast<const char*>(utf8.data()), utf8.size()});
-}
 
 }  // namespace
 

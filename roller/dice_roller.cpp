@@ -37,24 +37,10 @@ void AppendTotal(std::string& result, Integer total) {
 
 }  // namespace
 
-DiceRoller::DiceRoller(const Fight& fight, Uniform& uniform, Prompts& prompts, PoolFunction CP,
-                       MeleeFunction wieldsInMelee)
-    : fight_(fight),
-      uniform_(uniform),
-      prompts_(prompts),
-      CP_(std::move(CP)),
-      wieldsInMelee_(std::move(wieldsInMelee)) {
+DiceRoller::DiceRoller(const Fight& fight, Uniform& uniform, Prompts& prompts,
+                       const Weapons& weapons, PoolFunction CP)
+    : fight_(fight), uniform_(uniform), prompts_(prompts), weapons_(weapons), CP_(std::move(CP)) {
   UpdateTargetNumber();
-}
-
-void DiceRoller::URCprimary(Integer modifier) {
-  primaryModifier_ = modifier;
-  FollowCombatant();
-}
-
-void DiceRoller::URCsecondary(Integer modifier) {
-  secondaryModifier_ = modifier;
-  FollowCombatant();
 }
 
 void DiceRoller::vNumDice(Integer dice) { txtNumDice = PlainText(dice); }
@@ -70,6 +56,8 @@ void DiceRoller::tabTest_Click(TestPage page) {
   tabTest = page;
   ++testsStarted_;
   testOwner_ = fight_.CurrentPCpointer;
+  testOpen_ = testOwner_ != 0;
+  testBody_ = Body;
   // The dice of an earlier test are not this one's.
   txtResult.clear();
   txtSuccess.clear();
@@ -90,16 +78,24 @@ void DiceRoller::tabTest_Click(TestPage page) {
 }
 
 void DiceRoller::TakePool() {
-  poolOwner_ = fight_.CurrentPCpointer;
-  poolTaken_ = fight_.RecordOf(poolOwner_).CP;
+  poolOwner_ = Tester();
+  poolTaken_ = Testing().CP;
   txtCPx = PlainText(poolTaken_);
+}
+
+Slot DiceRoller::Tester() const { return testOpen_ ? testOwner_ : fight_.CurrentPCpointer; }
+
+void DiceRoller::Follow() {
+  // Whoever was removed has no test any more.
+  if (testOpen_ && fight_.RecordOf(testOwner_).Name.empty()) testOpen_ = false;
+  FollowCombatant();
+  FollowPool();
 }
 
 void DiceRoller::FollowPool() {
   const PlayerRecord& owner = fight_.RecordOf(poolOwner_);
   if (txtCPx == PlainText(poolTaken_) || owner.Name.empty()) {
-    const Slot displayed = fight_.CurrentPCpointer;
-    if (poolOwner_ != displayed || poolTaken_ != fight_.RecordOf(displayed).CP) TakePool();
+    if (poolOwner_ != Tester() || poolTaken_ != Testing().CP) TakePool();
     return;
   }
   const double change = owner.CP.Value() - poolTaken_.Value();
@@ -130,6 +126,7 @@ void DiceRoller::cmdRoll() {
   lblRuleOfOne = allOnes;
   poolTaken_ = LenientInteger(txtCPx);
   CP_(poolOwner_, poolTaken_);
+  testOpen_ = false;
   // A defender rolls against the attacker's count, so only attacks leave one.
   if (tabTest == TestPage::Ranged || tabTest == TestPage::Melee) txtLastSuccesses = txtSuccess;
   prompts_.Beep();
@@ -143,7 +140,7 @@ void DiceRoller::txtNumDice_Change(const std::string& text) {
 
 void DiceRoller::txtCPx_Change(const std::string& text) {
   txtCPx = text;
-  txtCPx = PlainText(std::max<Integer>(LenientInteger(text), 0));
+  txtCPx = PlainText(AtLeast(LenientInteger(text), 0));
 }
 
 void DiceRoller::txtRangeTargetNumber_Change(const std::string& text) {
@@ -163,7 +160,7 @@ void DiceRoller::txtRVar_Change(int box, const std::string& text) {
 
 void DiceRoller::cmdDicePlusMinus(int index) {
   const Integer dice = LenientInteger(txtNumDice) + (index == 0 ? 1 : -1);
-  vNumDice(std::max<Integer>(dice, 0));
+  vNumDice(AtLeast(dice, 0));
 }
 
 void DiceRoller::cmdCPplusMinus(int index) {
@@ -171,8 +168,8 @@ void DiceRoller::cmdCPplusMinus(int index) {
   const Integer dice = LenientInteger(txtNumDice);
   const Integer toDice = index == 0 ? 1 : -1;
   if ((toDice == 1 ? pool : dice) < 1) return;
-  const Integer newPool = std::max<Integer>(pool, 0) - toDice;
-  vNumDice(std::max<Integer>(dice, 0) + toDice);
+  const Integer newPool = AtLeast(pool, 0) - toDice;
+  vNumDice(AtLeast(dice, 0) + toDice);
   txtCPx = PlainText(newPool);
 }
 
@@ -206,8 +203,9 @@ void DiceRoller::cmdZeroAll() {
 }
 
 void DiceRoller::optRangeSel_Click(Weapon weapon) {
-  // The other weapon's bracket is no concern of this test.
-  if (Displayed().SkillWeapType != static_cast<int>(weapon) + 1) return;
+  // The bracket of another weapon or of somebody else is no concern of this test.
+  if (Tester() != fight_.CurrentPCpointer) return;
+  if (Testing().SkillWeapType != static_cast<int>(weapon) + 1) return;
   const std::string before = BaseNumber();
   SelectRange();
   if (BaseNumber() != before) UpdateTargetNumber();
@@ -234,23 +232,31 @@ std::string DiceRoller::OddsLine() const {
 }
 
 CombatantModifiers DiceRoller::Brought() const {
-  const PlayerRecord& combatant = Displayed();
+  const PlayerRecord& combatant = Testing();
   CombatantModifiers brought;
-  if (combatant.SkillWeapType == 1) brought.weapon = primaryModifier_;
-  if (combatant.SkillWeapType == 2) brought.weapon = secondaryModifier_;
+  if (combatant.SkillWeapType == 1) brought.weapon = ModifierOf(Weapon::Primary);
+  if (combatant.SkillWeapType == 2) brought.weapon = ModifierOf(Weapon::Secondary);
   brought.wounds = combatant.TNDamMod;
   return brought;
 }
 
+Integer DiceRoller::ModifierOf(Weapon weapon) const {
+  if (Tester() == fight_.CurrentPCpointer) {
+    return displayedModifiers_[static_cast<std::size_t>(weapon)];
+  }
+  return weapons_.WeaponModifier(Testing(), weapon);
+}
+
 void DiceRoller::SelectRange() {
-  const PlayerRecord& combatant = Displayed();
+  const PlayerRecord& combatant = Testing();
   // The bracket of somebody else's shot must not linger.
   txtRangeTargetNumber = kPlainBase;
   bracket_ = -1;
-  if (combatant.SkillWeapType == 1 && !wieldsInMelee_(Weapon::Primary)) {
+  if (combatant.SkillWeapType == 1 && !weapons_.WieldsInMelee(combatant, Weapon::Primary)) {
     bracket_ = combatant.RangeSelPrim.Value();
     txtRangeTargetNumber = RangeBase(bracket_);
-  } else if (combatant.SkillWeapType == 2 && !wieldsInMelee_(Weapon::Secondary)) {
+  } else if (combatant.SkillWeapType == 2 &&
+             !weapons_.WieldsInMelee(combatant, Weapon::Secondary)) {
     bracket_ = combatant.RangeSelSec.Value();
     txtRangeTargetNumber = RangeBase(bracket_);
   } else {
@@ -285,7 +291,7 @@ void DiceRoller::FollowCombatant() {
 void DiceRoller::Choose(VisibilityChoice& list, int index) {
   if (index < 0 || index >= visability_.count) return;
   list.index = index;
-  list.written = VisibilityModifier(visability_.rows[index], Displayed());
+  list.written = VisibilityModifier(visability_.rows[index], Testing());
   txtRVar_Change(list.box, list.written);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <functional>
 #include <string>
 #include <vector>
@@ -31,11 +32,19 @@ class DiceRoller {
 
   /// Hands the combat pool that a test leaves to the combatant whose dice it took.
   using PoolFunction = std::function<void(Slot, Integer)>;
-  /// Whether the displayed combatant wields this weapon with a melee skill.
-  using MeleeFunction = std::function<bool(Weapon)>;
 
-  DiceRoller(const Fight& fight, Uniform& uniform, Prompts& prompts, PoolFunction CP,
-             MeleeFunction wieldsInMelee);
+  /// What the roller asks the rules of weapons, which lie above it.
+  class Weapons {
+   public:
+    virtual ~Weapons() = default;
+    /// Whether the combatant wields this weapon with a melee skill.
+    virtual bool WieldsInMelee(const PlayerRecord& combatant, Weapon weapon) const = 0;
+    /// The total modifier of this weapon.
+    virtual Integer WeaponModifier(const PlayerRecord& combatant, Weapon weapon) const = 0;
+  };
+
+  DiceRoller(const Fight& fight, Uniform& uniform, Prompts& prompts, const Weapons& weapons,
+             PoolFunction CP);
 
   // What the main window hands over before it starts a test.
   std::string DamageCode;
@@ -44,11 +53,12 @@ class DiceRoller {
   /// The skill's level, and its name.
   std::string skill;
   std::string lblSkill;
-  /// The augmented Body of the displayed combatant, as plain text.
+  /// The augmented Body of the displayed combatant, as plain text; BodyOfTest is shown.
   std::string Body;
-  /// The total modifiers of the two weapons.
-  void URCprimary(Integer modifier);
-  void URCsecondary(Integer modifier);
+  /// The total modifiers of the displayed combatant's two weapons. They count when both are there,
+  /// at the end of the command.
+  void URCprimary(Integer modifier) { displayedModifiers_[0] = modifier; }
+  void URCsecondary(Integer modifier) { displayedModifiers_[1] = modifier; }
   /// The number of dice.
   void vNumDice(Integer dice);
 
@@ -116,14 +126,21 @@ class DiceRoller {
   /// Sets all boxes of the page to 0.
   void cmdZeroAll();
 
-  /// To be called when a command has run. The pool is the displayed combatant's until dice of it
-  /// are in the test; then it stays with its owner, whoever is looked at, so that a roll never
-  /// spends somebody else's dice, and goes up and down with the owner's pool.
-  void FollowPool();
+  /// To be called when a command has run: what the combatant who tests brings along and the pool
+  /// are taken up again. The pool stays with its owner, whoever is displayed, as long as dice of it
+  /// are in the test, and goes up and down with the owner's pool.
+  void Follow();
+  /// What was started is over, as when another fight is loaded.
+  void EndTest() { testOpen_ = false; }
   int TestsStarted() const { return testsStarted_; }
-  /// Who the test was started for, 0 before the first, and whose pool it takes its dice from.
+  /// Whose test this is: from its start to its roll the one it was started for, whoever is
+  /// displayed; otherwise the displayed combatant.
+  Slot Tester() const;
+  /// Who the last test was started for, 0 before the first, and whose pool its dice come from.
   Slot TestOwner() const { return testOwner_; }
   Slot PoolOwner() const { return poolOwner_; }
+  /// The augmented Body of the combatant who tests.
+  const std::string& BodyOfTest() const { return testOpen_ ? testBody_ : Body; }
 
   /// The main window's choice of a range bracket; the base number of the weapon that attacked last
   /// follows it.
@@ -140,11 +157,13 @@ class DiceRoller {
   const FixedTable<Integer, 100>& DieTotals() const { return dieTotals_; }
 
  private:
-  const PlayerRecord& Displayed() const { return fight_.Players[fight_.CurrentPCpointer]; }
+  const PlayerRecord& Testing() const { return fight_.RecordOf(Tester()); }
   CombatantModifiers Brought() const;
+  Integer ModifierOf(Weapon weapon) const;
   void SelectRange();
   void UpdateTargetNumber();
   void FollowCombatant();
+  void FollowPool();
   void Choose(VisibilityChoice& list, int index);
   void LookAgain(VisibilityChoice& list);
   void TakePool();
@@ -152,16 +171,18 @@ class DiceRoller {
   const Fight& fight_;
   Uniform& uniform_;
   Prompts& prompts_;
+  const Weapons& weapons_;
   PoolFunction CP_;
-  MeleeFunction wieldsInMelee_;
   VisabilityTable visability_;
-  Integer primaryModifier_;
-  Integer secondaryModifier_;
+  std::array<Integer, 2> displayedModifiers_;
   /// What the boxes were last filled with.
   CombatantModifiers brought_;
   FixedTable<Integer, 100> dieTotals_;
   int testsStarted_ = 0;
   Slot testOwner_;
+  /// The test was started and not yet rolled.
+  bool testOpen_ = false;
+  std::string testBody_;
   /// The range bracket of the shot, 0 short to 3 extreme; -1 when the test is no shot.
   int bracket_ = -1;
   /// Whose combat pool `txtCPx` was filled from, and how large it was.

@@ -10,13 +10,10 @@ namespace ng {
 namespace {
 
 VisabilityRow ReadRow(std::string_view line) {
-  const std::vector<std::string_view> fields = Split(line, '|');
+  PieceReader fields(line, '|');
   VisabilityRow row;
-  if (fields.size() <= row.modifiers.size()) ThrowSubscript();
-  row.name = fields[0];
-  for (std::size_t column = 0; column < row.modifiers.size(); ++column) {
-    row.modifiers[column] = StrictInteger(fields[column + 1]);
-  }
+  row.name = fields.Required();
+  for (Integer& modifier : row.modifiers) modifier = StrictInteger(fields.Required());
   return row;
 }
 
@@ -50,11 +47,12 @@ std::vector<std::string> VisabilityTable::Names() const {
 }
 
 LoadedVisability LoadVisability(Files& files, const std::string& datDir) {
+  const std::string path = datDir + "\\visability.dat";
   LoadedVisability loaded;
   try {
-    loaded.message = ReadRows(loaded.table, files.ReadWhole(datDir + "\\visability.dat"));
+    loaded.message = ReadRows(loaded.table, files.ReadWhole(path));
   } catch (const RuntimeError& error) {
-    loaded.message = error.what();
+    loaded.message = RuntimeError(error.Number(), path).what();
   }
   return loaded;
 }

@@ -36,9 +36,9 @@ struct LoadedVisability {
 };
 
 /// Reads visability.dat from the DATA directory `datDir`. A file that is missing, a line of fewer
-/// than six fields and a modifier that is no whole number end the loading with the runtime's text;
-/// the eleventh row, which stays, ends it with "Error loading : visability.dat", even when it is
-/// the file's last.
+/// than six fields and a modifier that is no whole number end the loading with the runtime's text
+/// and, on a line below it, the file's path; the eleventh row, which stays, ends it with "Error
+/// loading : visability.dat", even when it is the file's last.
 LoadedVisability LoadVisability(Files& files, const std::string& datDir);
 
 /// The modifier of a row for this combatant's eyes, as its box shows it. Thermographic sight counts

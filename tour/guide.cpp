@@ -95,7 +95,7 @@ void Guide::Press(QWidget& window, const char* name) {
   }
 }
 
-void Guide::PressAndHear(QWidget& window, const char* name) {
+void Guide::PressAndCloseMessages(QWidget& window, const char* name) {
   hears_ = true;
   Press(window, name);
   hears_ = false;
@@ -128,7 +128,7 @@ void Guide::Trigger(QWidget& window, const char* name) {
 void Guide::AnswerModalWindow() {
   auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
   if (dialog == nullptr || !dialog->isVisible() || dialog == driven_) return;
-  // It says how far a piece of work is, and goes by itself.
+  // A progress box closes by itself.
   if (qobject_cast<QProgressDialog*>(dialog) != nullptr) return;
   auto* message = qobject_cast<QMessageBox*>(dialog);
   if (next_ == nullptr) {

@@ -9,9 +9,9 @@
 
 namespace ng {
 
-/// Leads through the windows: presses what stands in them, answers those that open, takes their
+/// Leads through the windows: presses their buttons, answers those that open, takes their
 /// pictures, and prints a line for each thing it does. Where something is not as it was planned the
-/// tour breaks off: the program ends with a status other than 0 and says where it stood.
+/// tour breaks off: the program ends with a status other than 0 and says where it was.
 class Guide {
  public:
   using Drive = std::function<void(QDialog&)>;
@@ -42,7 +42,7 @@ class Guide {
   void Press(QWidget& window, const char* name);
   /// The same where messages may come that the tour does not wait for: they are read out and
   /// closed.
-  void PressAndHear(QWidget& window, const char* name);
+  void PressAndCloseMessages(QWidget& window, const char* name);
   /// Takes the picture of the window that a button or menu entry opens, modal or not, and closes
   /// the window again.
   void TakeWindowOf(QWidget& window, const char* name, const char* picture);

@@ -15,26 +15,26 @@
 namespace ng {
 namespace {
 
-struct Wishes {
+struct TourOptions {
   QString folder;
   bool dark = false;
   QByteArray scale = "1";
 };
 
-/// Returns whether the arguments make sense. They are needed before there is an application.
-bool Understand(const QStringList& arguments, Wishes& wishes) {
+/// Returns whether the arguments are valid. They are needed before there is an application.
+bool ParseArguments(const QStringList& arguments, TourOptions& options) {
   QCommandLineParser parser;
   parser.addOptions({{QStringLiteral("dark"), {}},
                      {QStringLiteral("scale"), {}, QStringLiteral("factor"), QStringLiteral("1")}});
   if (!parser.parse(arguments) || parser.positionalArguments().size() != 1) return false;
-  wishes.folder = parser.positionalArguments().constFirst();
-  wishes.dark = parser.isSet(QStringLiteral("dark"));
-  wishes.scale = parser.value(QStringLiteral("scale")).toLatin1();
-  return wishes.scale.toDouble() > 0;
+  options.folder = parser.positionalArguments().constFirst();
+  options.dark = parser.isSet(QStringLiteral("dark"));
+  options.scale = parser.value(QStringLiteral("scale")).toLatin1();
+  return options.scale.toDouble() > 0;
 }
 
-/// The platform without a screen complains of all that it leaves out; everything else is heard.
-void Hear(QtMsgType /*kind*/, const QMessageLogContext& /*place*/, const QString& message) {
+/// Without a screen the toolkit warns of all that it does not support; other warnings are printed.
+void PrintWarning(QtMsgType /*kind*/, const QMessageLogContext& /*place*/, const QString& message) {
   for (const char* known : {"This plugin does not support ", "QStandardPaths: XDG_RUNTIME_DIR "}) {
     if (message.startsWith(QLatin1String(known))) return;
   }
@@ -55,13 +55,13 @@ void ShowStart(Guide& guide, const Theme& theme) {
   program.Run(SampleProgram::Start::First);
 }
 
-int Tour(const Wishes& wishes) {
-  if (!QDir().mkpath(wishes.folder)) {
-    std::fprintf(stderr, "cannot make the folder %s\n", qPrintable(wishes.folder));
+int Tour(const TourOptions& options) {
+  if (!QDir().mkpath(options.folder)) {
+    std::fprintf(stderr, "cannot make the folder %s\n", qPrintable(options.folder));
     return 2;
   }
-  const Theme& theme = wishes.dark ? Theme::Dark() : Theme::Light();
-  Guide guide(wishes.folder);
+  const Theme& theme = options.dark ? Theme::Dark() : Theme::Light();
+  Guide guide(options.folder);
   ShowStart(guide, theme);
   SampleProgram program(theme);
   PlaySampleFight(guide, program);
@@ -74,18 +74,18 @@ int Tour(const Wishes& wishes) {
 int main(int argc, char* argv[]) {
   QStringList arguments;
   for (int i = 0; i < argc; ++i) arguments += QString::fromLocal8Bit(argv[i]);
-  ng::Wishes wishes;
-  if (!ng::Understand(arguments, wishes)) {
+  ng::TourOptions options;
+  if (!ng::ParseArguments(arguments, options)) {
     std::fputs("usage: ng_tour [--dark] [--scale FACTOR] FOLDER\n", stderr);
     return 2;
   }
-  qputenv("QT_SCALE_FACTOR", wishes.scale);
+  qputenv("QT_SCALE_FACTOR", options.scale);
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  qInstallMessageHandler(ng::Hear);
+  qInstallMessageHandler(ng::PrintWarning);
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   QApplication application(argc, argv);
   ng::PrepareApplication(application);
-  // A text cursor that comes and goes would make every picture another one.
+  // With a blinking text cursor no two pictures would be the same.
   QApplication::setCursorFlashTime(0);
-  return ng::Tour(wishes);
+  return ng::Tour(options);
 }

@@ -209,7 +209,7 @@ void SampleFight::Suffer() {
   guide_.Take(Roller(), "roller-general");
   Roller().close();
 
-  Say("Vex is hurt too, and loads the gun anew");
+  Say("Vex is hurt too, and reloads the gun");
   Display(QStringLiteral("Vex"));
   Press("cmdLDam_0");
   Press("cmdMDam_1");
@@ -297,7 +297,7 @@ void SampleFight::SaveAndRestore() {
   Press("mnuFileLoad");
   guide_.Say(QStringLiteral("  ") + Text("lblStatus"));
   const Fight& restored = program_.session.main.fight;
-  for (int slot = 1; slot <= saved.NumPlayers.Value(); ++slot) {
+  for (const Slot slot : SlotsUpTo(saved.NumPlayers)) {
     const PlayerRecord& before = saved.Players[slot];
     const PlayerRecord& now = restored.Players[slot];
     if (now.Name != before.Name || now.RRSLT != before.RRSLT ||
@@ -319,7 +319,7 @@ void SampleFight::End() {
 }
 
 void SampleFight::Next() {
-  guide_.PressAndHear(Window(), "mnuTNext");
+  guide_.PressAndCloseMessages(Window(), "mnuTNext");
   guide_.Say(QStringLiteral("  Next: %1 %2").arg(Text("lblPhase"), Text("lblName2")));
 }
 

@@ -15,8 +15,8 @@ namespace ng {
 struct Theme;
 
 /// The whole program on the sample campaign: the real windows over the real files. Its own files
-/// and the user's settings stand in a directory that goes with it, and its dice fall the same way
-/// every time.
+/// and the user's settings are in a directory that is deleted with it, and its dice fall the same
+/// way every time.
 class SampleProgram : private StartupWindows {
   // The session is made from these.
   QTemporaryDir folder_;

@@ -37,7 +37,7 @@ void Watchdog::Watch() {
   std::unique_lock lock(mutex_);
   while (!over_) {
     if (!changed_.wait_for(lock, patience_, [this] { return reported_ || over_; })) {
-      std::fprintf(stderr, "The tour hangs after: %s\n", place_.c_str());
+      std::fprintf(stderr, "The tour is stuck after: %s\n", place_.c_str());
       std::_Exit(kExitStatus);
     }
     reported_ = false;

@@ -29,7 +29,7 @@ void Actions::ToggleDelay() {
 void Actions::DeclareDelay() {
   PlayerRecord& record = Displayed();
   HistoryStep& step = fight_.TurnHistory[fight_.SeqNum];
-  step.Turn = fight_.CurrentPCpointer;
+  step.Turn = fight_.CurrentPCpointer.Value();
   step.TwoTurn = HistoryStep::kDelayed;
   record.Delay = true;
   record.TurnDone = true;
@@ -49,12 +49,12 @@ void Actions::Interrupt() {
   }
   record.PhaseNum = fight_.PhaseCnt;
   HistoryStep& step = fight_.TurnHistory[fight_.SeqNum];
-  const Slot interrupted = step.Turn;
+  const Slot interrupted = step.Actor();
   const OrderPosition p = fight_.FindInOrder(fight_.CurrentPCpointer);
-  step.Turn = fight_.InitOrder[p];
+  step.Turn = fight_.InitOrder[p].Value();
   step.TwoTurn = fight_.PhaseCnt;
   // A slot, not a row, is remembered here; the next painted turn sets it right.
-  fight_.lastGreen = fight_.InitOrder[p];
+  fight_.lastGreen = OrderPosition::From(fight_.InitOrder[p].Value());
   fight_.SetGreenAt(p);
   fight_.LTurn = p;
   // The interrupted combatant still gets its action.
@@ -113,6 +113,8 @@ Integer Actions::Multiply(Integer& asked) {
     return 0;
   }
   asked = n;
+  // Copies take what is on the sheet.
+  host_.SyncSheet();
   int made = 0;
   for (; made < n; ++made) {
     const Slot free = fight_.FindFreeSlot();
@@ -127,10 +129,11 @@ void Actions::MakeCopy(Slot original, Slot copy, int number) {
   PlayerRecord& record = fight_.Players[copy];
   record = fight_.Players[original];
   record.Name += "::" + PlainText(number);
-  const OrderPosition last = fight_.CountPlayers();
-  const OrderPosition place = std::min(copy, last);
-  // Where a hole was filled, the one who stood at that position goes to the end, so that nobody
-  // drops out of the fight.
+  fight_.Recount();
+  const OrderPosition last = OrderPosition::From(fight_.NumPlayers);
+  // A copy joins the order at the position that its slot has the number of. Where a hole was
+  // filled, the one who stood there goes to the end, so that nobody drops out of the fight.
+  const OrderPosition place = std::min(OrderPosition::From(copy.Value()), last);
   const Slot displaced = fight_.InitOrder[place];
   fight_.InitOrder[place] = copy;
   if (displaced != 0 && place != last) fight_.InitOrder[last] = displaced;
@@ -149,10 +152,12 @@ void Actions::RemovePlayer(Slot slot) {
     ReleaseCharacter(slot);
     fight_.Players[slot] = PlayerRecord{};
   }
+  fight_.Recount();
   RebuildOrder();
-  sequencer_.SortInitiative();
+  // Nobody is displayed and the row is gone even where the sort ends in Overflow.
   host_.XFerPC(0);
   grid_.RefreshGrid();
+  sequencer_.SortInitiative();
 }
 
 /// Frees the sheet's place for a later import when this was the last combatant that used it.
@@ -168,14 +173,14 @@ void Actions::ReleaseCharacter(Slot slot) {
 
 void Actions::RebuildOrder() {
   for (Slot& slot : fight_.InitOrder) slot = 0;
-  int place = 0;
-  for (int slot = 1; slot <= Fight::kLastSlot; ++slot) {
+  OrderPosition place = 0;
+  for (const Slot slot : AllSlots()) {
     if (!fight_.Players[slot].Name.empty()) fight_.InitOrder[++place] = slot;
   }
 }
 
 void Actions::RemoveAll() {
-  for (int slot = fight_.CountPlayers().Value(); slot >= 1; --slot) RemovePlayer(slot);
+  for (Integer slot = fight_.CountPlayers(); slot >= 1; slot -= 1) RemovePlayer(Slot::From(slot));
 }
 
 }  // namespace ng

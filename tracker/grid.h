@@ -1,11 +1,13 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "base/integer.h"
 #include "tracker/fight/fight.h"
+#include "tracker/turn_status.h"
 
 namespace ng {
 
@@ -19,8 +21,7 @@ class InitiativeGrid {
   static constexpr int kRollColumn = 1;
   static constexpr int kTextColumn = 2;
 
-  /// Cell back colours as the platform numbers them, 0xBBGGRR.
-  enum class Colour { White = 0xFFFFFF, Green = 0x00FF00, Yellow = 0x00FFFF, Red = 0x0000FF };
+  using Colour = RowColour;
 
   struct Row {
     std::array<std::string, kColumns> text;
@@ -38,31 +39,44 @@ class InitiativeGrid {
   int CurrentRow() const { return currentRow_; }
   int CurrentColumn() const { return currentColumn_; }
 
-  /// Paint every column of a row. Row 0 is left alone, and so is a row beyond the last combatant.
+  /// Paint every column of a row. Row 0 is left alone, and so is a row that the grid does not have:
+  /// after a removal or a load the remembered green row may be any number.
   void PaintRowWhite(OrderPosition row) { Paint(row, Colour::White); }
   void PaintRowGreen(OrderPosition row);
   void PaintRowYellow(OrderPosition row) { Paint(row, Colour::Yellow); }
   void PaintRowRed(OrderPosition row) { Paint(row, Colour::Red); }
 
-  /// Writes all rows anew. Of a row's colours the last that applies wins: red beats yellow beats
-  /// green.
+  /// Writes all rows again. Of a row's colours the last that applies wins: red beats yellow beats
+  /// green. The current cell stays in its row.
   void RefreshGrid();
 
   /// Moves the current cell; out-of-range values are held at the grid's edge.
   void SetCurrent(int row, int column);
+  /// Moves the current cell to the row that its combatant has in a new order, so that what is typed
+  /// next goes to the same combatant. Where that one is gone, the cell stays in its row.
+  void FollowCombatant();
 
   /// Edits the current cell in place by a typed character. Only cells outside the header row and
   /// the name column can be edited. Returns whether the cell's text changed.
   bool TypeCharacter(int code);
+  /// Gives the current cell the text that it had before anything was typed into it, until the
+  /// cell is left or something else is written there. Returns whether the text changed.
+  bool RestoreText();
 
  private:
   void Paint(OrderPosition row, Colour colour);
+  void TakeCurrentSlot();
+  bool Edit(int code);
   std::string& CurrentText();
 
   Fight& fight_;
   std::vector<Row> rows_;
   int currentRow_ = 0;
   int currentColumn_ = 0;
+  /// The combatant in the current row, 0 for none.
+  Slot currentSlot_ = 0;
+  /// The current cell's text from before it was typed into.
+  std::optional<std::string> textBefore_;
   /// The row that typing edited last; a first character there replaces the text.
   int lastEditedRow_ = 0;
 };

@@ -3,6 +3,7 @@
 #include "base/number_text.h"
 #include "base/random_int.h"
 #include "base/text.h"
+#include "tracker/turn.h"
 
 namespace ng {
 namespace {
@@ -35,26 +36,27 @@ bool Sequencer::GoesBefore(Slot b, Slot a) const {
 
 void Sequencer::SortInitiative() {
   const Integer n = fight_.CountPlayers();
-  for (int slot = 1; slot <= n; ++slot) {
+  for (const Slot slot : SlotsUpTo(n)) {
     PlayerRecord& record = fight_.Players[slot];
     record.FRSLT = record.RRSLT - record.TNDamMod;
-    if (record.CurDamPhysical >= 10 || record.CurDamStun >= 10) {
+    if (IsOutOfFight(record)) {
       record.RRSLT = 0;
       record.FRSLT = 0;
     }
   }
-  for (int p = 1; p < n; ++p) {
-    for (int q = p + 1; q <= n; ++q) {
+  const OrderPosition last = OrderPosition::From(n);
+  for (const OrderPosition p : PositionsUpTo(n - 1)) {
+    for (const OrderPosition q : IndexRange(OrderPosition::From(p.Value() + 1), last)) {
       if (GoesBefore(fight_.InitOrder[q], fight_.InitOrder[p])) fight_.SwapOrder(p, q);
     }
   }
   grid_.RefreshGrid();
+  grid_.FollowCombatant();
 }
 
 void Sequencer::Reroll(Boolean copiesShareRoll) {
   grid_.PaintRowWhite(fight_.lastGreen);
-  const Integer n = fight_.CountPlayers();
-  for (int p = 1; p <= n; ++p) {
+  for (const OrderPosition p : PositionsUpTo(fight_.CountPlayers())) {
     const Slot slot = fight_.InitOrder[p];
     if (slot == 0) continue;
     PlayerRecord& record = fight_.Players[slot];
@@ -69,12 +71,12 @@ void Sequencer::Reroll(Boolean copiesShareRoll) {
 
 void Sequencer::ShareRollsWithCopies() {
   const Integer n = fight_.CountPlayers();
-  for (int i = 1; i <= n; ++i) {
+  for (const Slot i : SlotsUpTo(n)) {
     const PlayerRecord& original = fight_.Players[i];
     // An empty slot is no original: its name would be contained in every copy's.
     if (original.Name.empty() || Contains(original.Name, "::")) continue;
     const std::string mark = original.Name + "::";
-    for (int j = 1; j <= n; ++j) {
+    for (const Slot j : SlotsUpTo(n)) {
       PlayerRecord& copy = fight_.Players[j];
       if (j != i && Contains(copy.Name, mark)) copy.RRSLT = original.RRSLT;
     }
@@ -90,12 +92,12 @@ void Sequencer::Reset() {
   host_.RefreshPools();
   // The pass column is left as it is.
   for (HistoryStep& step : fight_.TurnHistory) step.Turn = 0;
-  for (int slot = 1; slot <= n; ++slot) fight_.Players[slot].Delay = false;
+  for (const Slot slot : SlotsUpTo(n)) fight_.Players[slot].Delay = false;
   SortInitiative();
   lblPhase_ = kBeginningOfTurn;
   fight_.SeqNum = 0;
   fight_.TurnNum = 0;
-  for (int slot = 1; slot <= n; ++slot) fight_.Players[slot].SetGreen = false;
+  for (const Slot slot : SlotsUpTo(n)) fight_.Players[slot].SetGreen = false;
   grid_.RefreshGrid();
   host_.XFerPC(fight_.CurrentPCpointer);
 }
@@ -103,7 +105,6 @@ void Sequencer::Reset() {
 void Sequencer::Next() {
   fight_.SeqNum += 1;
   fight_.grenadeCnt = 0;
-  host_.ZeroRoundCounters();
   const Integer n = fight_.CountPlayers();
   if (n == 0) return;
   if (!ReplayRecordedStep()) Scan(n);
@@ -119,10 +120,10 @@ bool Sequencer::ReplayRecordedStep() {
     return true;
   }
   if (step.TwoTurn != HistoryStep::kDelayed) {
-    PaintTurn(fight_.FindInOrder(step.Turn));
+    PaintTurn(fight_.FindInOrder(step.Actor()));
     lblPhase_ = kHistory + PlainText(step.TwoTurn);
   } else {
-    grid_.PaintRowYellow(fight_.FindInOrder(step.Turn));
+    grid_.PaintRowYellow(fight_.FindInOrder(step.Actor()));
     lblPhase_ = "Delayed";
   }
   // A replay never moves `LTurn`, so the sheet is that of the combatant at the current position,
@@ -141,7 +142,7 @@ void Sequencer::Scan(Integer n) {
       return;
     }
     looked = (looked + 1) % n.Value();
-    fight_.LTurn = looked + 1;
+    fight_.LTurn = OrderPosition::From(looked + 1);
     if (looked == 0 && !OpenNextPass()) return;
   }
 }
@@ -155,13 +156,15 @@ Sequencer::Look Sequencer::LookAtCurrent() {
     record.Events.clear();
   }
   if (record.TurnDone) return Look::GoOn;
+  // Before every look and not once a step: the sheet of a displayed combatant whose counts were
+  // just cleared, and who does not act, goes over them.
   host_.SyncSheet();
   if (!record.Resumed) {
     record.TBTTPrim = "0";
     record.TBTTSec = "0";
   }
   if (record.Delay) return Look::Delayed;
-  if (record.FRSLT - (fight_.PhaseCnt - 1) * kPassWidth <= 0) return Look::GoOn;
+  if (!HasActionLeft(fight_, slot)) return Look::GoOn;
   record.TurnDone = true;
   RecordStep(slot);
   PaintTurn(fight_.LTurn);
@@ -187,7 +190,7 @@ void Sequencer::EndCombatTurn() {
     fight_.GlobalEvents.clear();
   }
   const Integer n = fight_.CountPlayers();
-  for (int slot = 1; slot <= n; ++slot) fight_.Players[slot].SetGreen = false;
+  for (const Slot slot : SlotsUpTo(n)) fight_.Players[slot].SetGreen = false;
   grid_.PaintRowWhite(fight_.lastGreen);
   // The next "next" then plays the end mark again.
   fight_.SeqNum -= 1;
@@ -222,7 +225,7 @@ void Sequencer::Previous() {
     return;
   }
   const HistoryStep& step = fight_.TurnHistory[fight_.SeqNum];
-  PaintTurn(fight_.FindInOrder(step.Turn));
+  PaintTurn(fight_.FindInOrder(step.Actor()));
   lblPhase_ = step.TwoTurn == HistoryStep::kDelayed ? "History-Delayed"
                                                     : kHistory + PlainText(step.TwoTurn);
 }
@@ -230,7 +233,7 @@ void Sequencer::Previous() {
 void Sequencer::ClearEvents() {
   fight_.GlobalEvents.clear();
   const Integer n = fight_.CountPlayers();
-  for (int slot = 1; slot <= n; ++slot) fight_.Players[slot].Events.clear();
+  for (const Slot slot : SlotsUpTo(n)) fight_.Players[slot].Events.clear();
 }
 
 void Sequencer::SetInitMode(int option) {
@@ -240,7 +243,7 @@ void Sequencer::SetInitMode(int option) {
 
 void Sequencer::RecordStep(Slot slot) {
   HistoryStep& step = fight_.TurnHistory[fight_.SeqNum];
-  step.Turn = slot;
+  step.Turn = slot.Value();
   step.TwoTurn = fight_.PhaseCnt;
 }
 

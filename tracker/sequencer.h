@@ -19,8 +19,6 @@ class SequencerHost {
   virtual void SyncSheet() = 0;
   /// Refills every combatant's dice pools at the start of a combat turn.
   virtual void RefreshPools() = 0;
-  /// Zeroes the window's two counters of rounds fired in this step.
-  virtual void ZeroRoundCounters() = 0;
 };
 
 /// Rolls and orders initiative and steps through the combat turn: passes of ten points, each
@@ -28,8 +26,6 @@ class SequencerHost {
 /// played again by Previous and Next instead of moving the fight on.
 class Sequencer {
  public:
-  static constexpr int kPassWidth = 10;
-  static constexpr int kLastPass = 10;
   static constexpr int kAstralBonus = 20;
 
   Sequencer(Fight& fight, InitiativeGrid& grid, Uniform& uniform, Prompts& prompts,

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 #include "tracker/fight/player_record.h"
@@ -11,13 +13,14 @@ namespace ng {
 /// How a combatant's value is written to the state file and how it is read back. The two differ in
 /// places, and a restored fight shows it; that is meant so.
 enum class SlotForm {
-  /// Text as it stands, both ways.
+  /// Text as it stands, both ways; a line break, which would end the value, is written as a blank.
   Plain,
-  /// Text written as it stands but decoded when read: a "_" in it comes back as a blank.
+  /// Text written as it stands, but for its line breaks, and decoded when read: a "_" in it comes
+  /// back as a blank.
   Name,
   /// Text encoded when written, decoded when read.
   Encoded,
-  /// Text as it stands; read as a number and kept as the plain text of that number.
+  /// Text written as a plain one; read as a number and kept as the plain text of that number.
   Weight,
   /// A whole number, read leniently: a missing one is 0.
   Number,
@@ -33,14 +36,17 @@ enum class SlotForm {
 
 /// One key of a "[Slot...]" section.
 struct SlotKey {
+  using Member = std::variant<std::string PlayerRecord::*, Integer PlayerRecord::*,
+                              Boolean PlayerRecord::*, std::int32_t PlayerRecord::*>;
   const char* key;
   SlotForm form;
-  PlayerField::Member from;
+  Member from;
   /// Where the reader puts the value; not always where the writer took it from.
-  PlayerField::Member into;
+  Member into;
 };
 
-/// Every key of a slot's section, in the order of writing and of reading.
+/// Every key of a slot's section, in the order of writing and of reading; player_fields.def has the
+/// rows.
 const std::vector<SlotKey>& SlotKeys();
 
 /// What stands behind the "=".

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
 #include <span>
+#include <utility>
 
 #include "app/settings/encoding.h"
 #include "base/number_text.h"
@@ -16,12 +18,12 @@ constexpr const char* kSystem = "SystemState";
 struct StateKey {
   const char* written;
   const char* read;
-  Integer Fight::*member;
+  FightNumber member;
 };
 
 // No written file holds "RoundCnt" or "CurPCpointer": a restored fight begins at combat turn 0 with
 // nobody displayed.
-constexpr std::array<StateKey, 9> kCounters = {
+const std::array<StateKey, 9> kCounters = {
     {{"InfoCnt", "InfoCnt", &Fight::InfoCnt},
      {"InitPhase", "InitPhase", &Fight::InitPhase},
      {"RoundCount", "RoundCnt", &Fight::RoundCount},
@@ -33,25 +35,26 @@ constexpr std::array<StateKey, 9> kCounters = {
      {"grenadeCnt", "grenadeCnt", &Fight::grenadeCnt}}};
 
 /// These stand behind the turn list.
-constexpr std::array<StateKey, 2> kGreenRows = {
+const std::array<StateKey, 2> kGreenRows = {
     {{"CurGreen", "CurGreen", &Fight::CurGreen}, {"lastGreen", "lastGreen", &Fight::lastGreen}}};
 
 std::string Numbered(const char* word, int number) { return word + std::to_string(number); }
 
 class StateWriter {
  public:
-  explicit StateWriter(Fight& fight) : fight_(fight) {}
+  explicit StateWriter(const Fight& fight) : fight_(fight) {}
 
   std::string Write() {
     Section(kSystem);
-    Line("NumPlayers", PrintForm(fight_.CountPlayers()));
+    const Integer n = fight_.CountPlayers();
+    Line("NumPlayers", PrintForm(n));
     Counters(kCounters);
     for (int i = 0; i <= fight_.TurnNum; ++i) {
       Line(Numbered("Turn", i), PrintForm(fight_.TurnHistory[i].Turn));
       Line(Numbered("2Turn", i), PrintForm(fight_.TurnHistory[i].TwoTurn));
     }
     Counters(kGreenRows);
-    for (int slot = 1; slot <= fight_.NumPlayers; ++slot) WriteSlot(slot);
+    for (const Slot slot : SlotsUpTo(n)) WriteSlot(slot);
     return text_;
   }
 
@@ -61,17 +64,17 @@ class StateWriter {
     text_.append(key).append("=").append(value).append("\r\n");
   }
   void Counters(std::span<const StateKey> keys) {
-    for (const StateKey& key : keys) Line(key.written, PrintForm(fight_.*key.member));
+    for (const StateKey& key : keys) Line(key.written, PrintForm(NumberIn(fight_, key.member)));
   }
-  void WriteSlot(int slot) {
-    Section(Numbered("Slot", slot));
+  void WriteSlot(Slot slot) {
+    Section(Numbered("Slot", slot.Value()));
     for (const SlotKey& key : SlotKeys()) {
       if (key.form == SlotForm::ReadAgain) continue;
       Line(key.key, WrittenValue(fight_.Players[slot], key));
     }
   }
 
-  Fight& fight_;
+  const Fight& fight_;
   std::string text_;
 };
 
@@ -80,7 +83,8 @@ class StateReader {
   StateReader(const ProfileFile& file, Fight& fight, StateFileHost& host)
       : file_(file), fight_(fight), host_(host) {}
 
-  void Read() {
+  /// Returns the combatants without their character files.
+  std::vector<std::string> Read() {
     fight_.NumPlayers = LenientInteger(Value("NumPlayers"));
     // The imports count the combatants again; the number of slots to read stays.
     const Integer slots = fight_.NumPlayers;
@@ -90,6 +94,7 @@ class StateReader {
     ReadCounters(kCounters);
     ReadCounters(kGreenRows);
     ReadTurns();
+    return std::move(withoutFile_);
   }
 
   /// What was read last.
@@ -103,18 +108,25 @@ class StateReader {
 
   void ReadSlot() {
     section_ = Numbered("Slot", slot_);
-    host_.ImportCharacter(std::string(Value("Filename")));
+    const std::string fileName(Value("Filename"));
+    const bool imported = host_.ImportCharacter(fileName);
     for (const SlotKey& key : SlotKeys()) {
       const std::string_view text = Value(key.key);
-      TakeValue(fight_.Players[slot_], key, text);
+      TakeValue(fight_.Players[Slot::From(slot_)], key, text);
     }
-    PlayerRecord& record = fight_.Players[slot_];
+    PlayerRecord& record = fight_.Players[Slot::From(slot_)];
+    // A nameless slot was a gap in the table, with no file to miss.
+    if (!imported && !record.Name.empty() && missing_.insert(fileName).second) {
+      withoutFile_.push_back(record.Name);
+    }
     key_ = "NoteFileName";
     if (!record.NoteFileName.empty()) record.Notes = host_.ShowNote(record.NoteFileName);
   }
 
   void ReadCounters(std::span<const StateKey> keys) {
-    for (const StateKey& key : keys) fight_.*key.member = LenientInteger(Value(key.read));
+    for (const StateKey& key : keys) {
+      StoreNumber(fight_, key.member, LenientInteger(Value(key.read)));
+    }
   }
 
   /// The list has no count of its own: it ends with the first entry that is missing or empty.
@@ -134,33 +146,35 @@ class StateReader {
   std::string key_;
   /// 0 outside the slots.
   int slot_ = 0;
+  std::set<std::string> missing_;
+  std::vector<std::string> withoutFile_;
 };
 
 }  // namespace
 
-std::string StateFileText(Fight& fight) { return StateWriter(fight).Write(); }
+std::string StateFileText(const Fight& fight) { return StateWriter(fight).Write(); }
 
 std::vector<std::string> NamesLeftOut(const Fight& fight) {
   std::vector<std::string> names;
-  std::vector<int> slots;
-  for (int slot = 1; slot <= Fight::kLastSlot; ++slot) {
-    if (!fight.Players[slot].Name.empty()) slots.push_back(slot);
-  }
-  for (const int slot : slots) {
-    if (slot > static_cast<int>(slots.size())) names.push_back(fight.Players[slot].Name);
+  const Slot last = Slot::From(fight.CountPlayers());
+  for (const Slot slot : AllSlots()) {
+    const std::string& name = fight.Players[slot].Name;
+    if (slot > last && !name.empty()) names.push_back(name);
   }
   return names;
 }
+
+bool IsStateFile(const ProfileFile& file) { return file.HasSection(kSystem); }
 
 int CombatantsIn(const ProfileFile& file) {
   return static_cast<int>(std::clamp(LeadingNumber(file.Value(kSystem, "NumPlayers")), 0.0,
                                      static_cast<double>(Fight::kLastSlot)));
 }
 
-void ReadStateFile(const ProfileFile& file, Fight& fight, StateFileHost& host) {
+std::vector<std::string> ReadStateFile(const ProfileFile& file, Fight& fight, StateFileHost& host) {
   StateReader reader(file, fight, host);
   try {
-    reader.Read();
+    return reader.Read();
   } catch (const RuntimeError& error) {
     throw RuntimeError(error.Number(), reader.Place());
   }

@@ -11,13 +11,16 @@ namespace ng {
 // The state file keeps a whole fight: the fight-wide counters and the turn list in a section
 // "[SystemState]", then a section "[Slot1]", "[Slot2]" ... for each combatant.
 
-/// The text of the state file, with lines ended by CR LF. Counts the combatants afresh, into
-/// `NumPlayers`, and writes that many slots from slot 1 on, so that a combatant beyond a hole is
-/// left out. Subscript out of range for a `TurnNum` above 100.
-std::string StateFileText(Fight& fight);
+/// The text of the state file, with lines ended by CR LF. Counts the combatants afresh and writes
+/// that many slots from slot 1 on, so that a combatant beyond a hole is left out. Subscript out of
+/// range for a `TurnNum` above 100.
+std::string StateFileText(const Fight& fight);
 
 /// The names of the combatants that StateFileText leaves out, in the order of their slots.
 std::vector<std::string> NamesLeftOut(const Fight& fight);
+
+/// Whether this is a state file: it has the section "[SystemState]".
+bool IsStateFile(const ProfileFile& file);
 
 /// How many combatants the file tells of, 0 to 100 whatever stands there.
 int CombatantsIn(const ProfileFile& file);
@@ -27,8 +30,8 @@ class StateFileHost {
  public:
   virtual ~StateFileHost() = default;
   /// Imports a character file into a free slot; a combatant saved without one passes the empty
-  /// name.
-  virtual void ImportCharacter(const std::string& fileName) = 0;
+  /// name. False when the file could not be read and the combatant has no sheet.
+  virtual bool ImportCharacter(const std::string& fileName) = 0;
   /// Opens the note file, shows its first line, decoded, in the note box and returns it.
   virtual std::string ShowNote(const std::string& noteFileName) = 0;
 };
@@ -36,13 +39,14 @@ class StateFileHost {
 /// Restores the combatants, the counters and the turn list; showing them and resetting the turn is
 /// the caller's. The table is not emptied first: each slot's character is imported into whichever
 /// slot is free, and the slot's values are laid over the record of the same number, so that only an
-/// empty table gives back the fight as it was.
+/// empty table gives back the fight as it was. Returns whose character files could not be read, of
+/// several combatants of one file the first.
 ///
 /// Some values do not come back, and that is meant so: `RoundCount` and `CurrentPCpointer` are 0,
 /// `roundcnt` is 0, `Delay` says who had the turn, `inactive` and `SetGreen` are as imported.
 ///
 /// A runtime error names the key, and the slot where there is one, on a line below its text ("KP,
 /// slot 3"); what was read before it stays in the fight.
-void ReadStateFile(const ProfileFile& file, Fight& fight, StateFileHost& host);
+std::vector<std::string> ReadStateFile(const ProfileFile& file, Fight& fight, StateFileHost& host);
 
 }  // namespace ng

@@ -7,7 +7,7 @@ class QWidget;
 
 namespace ng {
 
-/// What the toolkit has to know before the first window.
+/// What the toolkit needs before the first window.
 void PrepareApplication(QApplication& application);
 
 /// Starts the program and runs it to its end; returns the exit code. `loaded`, if there is one, is

@@ -9,13 +9,13 @@ constexpr const char* kFile = "tracker.ini";
 constexpr const char* kSection = "NGtracker";
 constexpr const char* kDefaultDatDir = "c:\\Program Files\\Forgekit\\DATA";
 
-std::string ReadSetting(Files& files, const ProgramLocation& location, const char* key) {
-  return ReadINI(files, location, kFile, kSection, key);
+std::string ReadSetting(ProfileReader& profile, const char* key) {
+  return profile.ReadINI(kFile, kSection, key);
 }
 
 /// A switch is on when its text is anything but "0"; a missing one counts as "0".
-Boolean ReadSwitch(Files& files, const ProgramLocation& location, const char* key) {
-  const std::string text = ReadSetting(files, location, key);
+Boolean ReadSwitch(ProfileReader& profile, const char* key) {
+  const std::string text = ReadSetting(profile, key);
   return {!text.empty() && text != "0"};
 }
 
@@ -23,15 +23,15 @@ int CheckBoxState(Boolean flag) { return flag ? 1 : 0; }
 
 }  // namespace
 
-std::string ReadCharacterDirectory(Files& files, const ProgramLocation& location) {
-  return ReadSetting(files, location, "NG3Dir");
+std::string ReadCharacterDirectory(ProfileReader& profile) {
+  return ReadSetting(profile, "NG3Dir");
 }
 
-void ReadSettings(Files& files, const ProgramLocation& location, Settings& settings) {
-  settings.DatDir = ReadSetting(files, location, "DatDir");
+void ReadSettings(ProfileReader& profile, Settings& settings) {
+  settings.DatDir = ReadSetting(profile, "DatDir");
   if (settings.DatDir.empty()) settings.DatDir = kDefaultDatDir;
-  settings.CloneInit = ReadSwitch(files, location, "CloneInit");
-  settings.DisableNGDR = ReadSwitch(files, location, "DisableNGDR");
+  settings.CloneInit = ReadSwitch(profile, "CloneInit");
+  settings.DisableNGDR = ReadSwitch(profile, "DisableNGDR");
 }
 
 std::string SettingsText(const Settings& settings) {

@@ -10,7 +10,7 @@ namespace ng {
 
 /// The process-wide settings, read once at start from the section "[NGtracker]" of tracker.ini.
 struct Settings {
-  /// Where the character files lie; the loader dialog and the options dialog change it.
+  /// Where the character files are; the loader dialog and the options dialog change it.
   std::string NG3Dir;
   /// Forgekit's DATA directory with the reference tables.
   std::string DatDir;
@@ -21,17 +21,17 @@ struct Settings {
 };
 
 /// The value of "NG3Dir" in tracker.ini, empty when there is none.
-std::string ReadCharacterDirectory(Files& files, const ProgramLocation& location);
+std::string ReadCharacterDirectory(ProfileReader& profile);
 
 /// Reads the three settings that have a default. `NG3Dir` is left as it is: start-up reads it on
 /// its own, since an empty one opens the options dialog first.
-void ReadSettings(Files& files, const ProgramLocation& location, Settings& settings);
+void ReadSettings(ProfileReader& profile, Settings& settings);
 
 /// The text of tracker.ini. The switches are check box states, written in the print form.
 std::string SettingsText(const Settings& settings);
 
 /// Replaces tracker.ini in the program's own directory, even when the command line named another
-/// file to read; this asymmetry is intended. Throws the platform's file errors.
+/// file to read: that one is never written. Throws the file errors.
 void WriteSettings(Files& files, const ProgramLocation& location, const Settings& settings);
 
 }  // namespace ng

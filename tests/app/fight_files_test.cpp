@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/number_text.h"
 #include "base/text.h"
 #include "fakes/test_program.h"
 
@@ -114,7 +115,7 @@ TEST_F(FightFilesTest, DroppedFilesAreOpenedTheStateFirst) {
   EXPECT_EQ(later.prompts.TakeLog().back(),
             "message \"Only one state file can be opened at a time\"");
   later.Do("Form_Drop", 0, "D:\\map.png");
-  EXPECT_EQ(later.main.statusMessage, "Neither a character nor a state file: D:\\map.png");
+  EXPECT_EQ(later.main.statusMessage, "Not a character or state file: D:\\map.png");
   EXPECT_EQ(later.fight.CountPlayers().Value(), 5);
 }
 
@@ -144,12 +145,78 @@ TEST_F(FightFilesTest, AFailureLeavesTheOldFileOrWhatWasRead) {
   EXPECT_EQ(later.prompts.log.back(), "message \"File not found\"");
 }
 
+TEST_F(FightFilesTest, WithoutItsCharacterFilesAFightKeepsItsPools) {
+  program.files.Put("C:\\chars\\birch.ng3",
+                    "[General]\nCharName=Birch\n[System]\nFinalize=True\n[Pools]\nCombat=5\n");
+  program.Do("Form_Drop", 0, "C:\\chars\\birch.ng3");
+  for (const int row : {1, 2, 3, 4}) {
+    program.Do("GridX_Click", row);
+    for (const char* button : {"cmdCPplus", "cmdSPplus", "cmdSPplus", "cmdADplus", "cmdSDplus"}) {
+      program.Do(button);
+    }
+  }
+  Save(program);
+  TestProgram later;
+  later.files.Put("C:\\chars\\birch.ng3", program.files.ReadWhole("C:\\chars\\birch.ng3"));
+  later.files.Put(kState, program.files.ReadWhole(kState));
+  Load(later);
+  // Ash::1 is of the same file.
+  EXPECT_EQ(later.main.statusMessage, "Restored without the character files of: Ash");
+  later.Do("mnuTReset");
+  const auto pools = [&](Slot slot) {
+    const PlayerRecord& r = later.fight.Players[slot];
+    return r.Name + " " + PlainText(r.CP) + PlainText(r.SP) + PlainText(r.SD) + PlainText(r.AS);
+  };
+  EXPECT_EQ(pools(1) + ", " + pools(3) + ", " + pools(4), "Ash 1111, Ash::1 1111, Birch::1 5010");
+
+  later.Do("Form_Drop", 0, "C:\\chars\\gone.ng3|C:\\chars\\birch.ng3");
+  EXPECT_EQ(later.main.statusMessage, "2 characters imported; could not be read: gone.ng3");
+  EXPECT_EQ(later.fight.Players[5].Name, "(NF)");
+}
+
+TEST_F(FightFilesTest, ARandomFileIsNoStateFileAndChangesNothing) {
+  const Fight before = program.fight;
+  for (const char* text : {"",
+                           "\x7F"
+                           "ELF",
+                           "[Slot1]\nName=Vex\n", "NumPlayers=1\n"}) {
+    program.files.Put(kState, text);
+    Load(program);
+    EXPECT_EQ(program.prompts.TakeLog().back(), "message \"Not a state file%0D%0A" + kState + "\"");
+  }
+  // Nor is what was dropped with it imported into a fight that it was not meant for.
+  program.Do("Form_Drop", 0, kState + "|C:\\chars\\ash.ng3");
+  EXPECT_TRUE(program.fight == before);
+  EXPECT_EQ(program.main.statusMessage, "Ready");
+}
+
+TEST_F(FightFilesTest, LineBreaksInNamesAndFiguresDoNotBreakTheFile) {
+  program.files.Put("C:\\DATA\\gear.dat", "0-1|Melee|1|Damage\n");
+  program.files.Put("C:\\chars\\ash.ng3",
+                    "[General]\nCharName=A^`[Slot2]\n[System]\nFinalize=True\n"
+                    "[Gear]\nGear0=Bow~1|6M^`KP=x\n");
+  program.main.Form_Load();
+  program.Do("mnuFileNew");
+  program.Import({0, 1});
+  program.Do("GridX_Click", program.fight.FindInOrder(1).Value());
+  program.Do("lstWeapon_Select", 1);
+  program.Do("cmdSetPrim");
+  program.prompts.TakeLog();
+  Save(program);
+  program.Do("mnuFileNew");
+  Load(program);
+  EXPECT_EQ(program.main.statusMessage, "Fight of 2 combatants restored");
+  EXPECT_EQ(program.fight.Players[1].Name, "A\r\n[Slot2]");
+  EXPECT_EQ(program.fight.Players[1].PrimWeapStatDamage, "6M  KP=x");
+  EXPECT_EQ(program.fight.Players[2].Name, "Birch");
+}
+
 TEST_F(FightFilesTest, ASaveNamesWhomItLeavesOut) {
   program.Do("GridX_Click", program.fight.FindInOrder(1).Value());
   program.Do("mnuPRemove");
   Save(program);
   EXPECT_EQ(program.main.statusMessage,
-            "Fight saved; beyond slot 2 and so not in the file: Ash::1");
+            "Fight saved. Not saved (beyond slot 2): Ash::1");
 }
 
 TEST_F(FightFilesTest, ClosingAsksForAChangedFightOnly) {
@@ -192,7 +259,7 @@ TEST_F(FightFilesTest, NotesHaveAFileOfTheirOwnOrStayWhileTheProgramRuns) {
   program.Do("txtNotes", 0, "talks\r\nfirst_");
   Save(program);
   EXPECT_EQ(program.main.statusMessage,
-            "Fight saved; notes without a file of their own are not in it: " +
+            "Fight saved. Notes not saved (no note file): " +
                 program.main.header.lblName2);
   program.prompts.TakeLog();
   program.prompts.answers.push_back({Kind::Cancel, {}, {}});
@@ -216,20 +283,19 @@ TEST_F(FightFilesTest, NotesHaveAFileOfTheirOwnOrStayWhileTheProgramRuns) {
   EXPECT_EQ(program.main.txtNotes, "talks\r\nfirst ");
 }
 
-TEST_F(FightFilesTest, TheLogGrowsAndItsFailureIsToldOnce) {
+TEST_F(FightFilesTest, TheLogGrowsAndItsFailureStaysUntilSeen) {
   program.prompts.answers.push_back({Kind::Input, "", {}});
   program.Do("frmGM.cmdAddNote");
   program.Do("mnuViewLog");
   EXPECT_EQ(program.main.logViewer.lstDisplay, std::vector<std::string>{""});
-  program.main.statusMessage.clear();
-  for (int i = 0; i < 2; ++i) {
+  for (const char* seen : {"lblLogFailure", "mnuViewGM", "mnuViewLog", "frmGM.cmdViewLog"}) {
     program.files.failingWrite = 1;
-    program.prompts.answers.push_back({Kind::Input, "gate shut", {}});
-    program.Do("frmGM.cmdAddNote");
-    EXPECT_EQ(program.main.statusMessage, i == 0 ? "The log is not written: Disk full" : "");
-    program.main.statusMessage.clear();
+    program.Do("cmdShotsZ");
+    program.Do("mnuTNext");
+    EXPECT_EQ(program.main.gmLog.lblLogFailure(), "Log not written: Disk full") << seen;
+    program.Do(seen);
+    EXPECT_EQ(program.main.gmLog.lblLogFailure(), "") << seen;
   }
-  EXPECT_EQ(program.main.gmLog.lstGMinfo().size(), 3U);
 }
 
 TEST_F(FightFilesTest, TheReferenceWindowFindsEntries) {
@@ -240,9 +306,12 @@ TEST_F(FightFilesTest, TheReferenceWindowFindsEntries) {
   EXPECT_EQ(program.main.reference.lstNames.size(), 3U);
   program.Do("frmReference.txtFilter", 0, "PO");
   EXPECT_EQ(program.main.reference.lstNames.size(), 1U);
-  EXPECT_TRUE(program.main.reference.ShowEntry("pistols"));
-  EXPECT_EQ(program.main.reference.txtEntry, "short arms|loud");
-  EXPECT_FALSE(program.main.reference.ShowEntry("Clubs"));
+  EXPECT_EQ(program.main.reference.txtEntry, "long\r\n");  // the first one listed
+  program.Do("frmReference.txtFilter", 0, "");
+  program.Do("frmReference.lstNames_Select", 2);
+  EXPECT_EQ(program.main.reference.txtEntry, "quiet");
+  program.Do("frmReference.txtFilter", 0, "Clubs");
+  EXPECT_EQ(program.main.reference.txtEntry, "");
 }
 
 }  // namespace

@@ -16,7 +16,7 @@ TEST(InfoForm, ShowsEveryFigureOfTheMarkedLineAndItsEntry) {
   program.Do("Form_Drop", 0, "C:\\chars\\vex.ng3");
   const InfoForm& info = program.main.itemInfo;
   program.Do("mnuViewInfo");
-  EXPECT_EQ(info.lblItem, "Mark a line of a list first");
+  EXPECT_EQ(info.lblItem, "Select a line first");
 
   // What a line holds beyond the columns of its list comes from the character file.
   program.Do("lstWeapon_Select", 1);
@@ -41,6 +41,7 @@ TEST(InfoForm, ShowsEveryFigureOfTheMarkedLineAndItsEntry) {
   };
   const Case cases[] = {{"lstWeapon_Select", 0, "Unarmed combat", "Damage\t(STR)M Stun", true},
                         {"lstEdges_Select", 0, "Ambidexterity-4", "Points\t4", true},
+                        {"lstOther_Select", 0, "Harbour slang", "Kind\t(LAN)", false},
                         {"lstContacts_Select", 2, "Sister Anneke", "Level\t3", false}};
   for (const Case& c : cases) {
     program.Do(c.select, c.line);

@@ -93,7 +93,7 @@ TEST(Session, EveryNumberCanBeShown) {
     vex.RangeSelPrim = number;
     program.Do("ngdr.tabTest");
     for (const FightField& field : FightFields()) {
-      if (field.member != &Fight::NumPlayers) fight.*field.member = number;
+      if (std::string_view(field.name) != "NumPlayers") StoreNumber(fight, field.member, number);
     }
     EXPECT_NO_THROW(TakeSnapshot(program.session)) << number;
     // Nothing is asked of the combatant displayed, and the pool follows whoever that is.

@@ -15,7 +15,7 @@ TEST(Encoding, EscapesTheFourAndLosesTheirSubstitutes) {
   EXPECT_EQ(DecodeNG3(EncodeNG3("snake_case ~ ^ `")), "snake case \t \r \n");
 }
 
-TEST(ProfileFile, ReadsAsThePlatformDoes) {
+TEST(ProfileFile, ReadsSectionsAndKeys) {
   const ProfileFile file(
       "before=nothing\r\n"
       "; [Section] of a comment\n"
@@ -72,9 +72,10 @@ TEST(Settings, PathsOfTheProgram) {
   files.Put("/etc/x.ini", "[s]\nk=posix");
   files.Put("D:\\other.ini", "[s]\nk=command line");
   const ProgramLocation location{"D:\\other.ini", "C:\\tracker"};
-  EXPECT_EQ(ReadINI(files, location, "/etc/x.ini", "s", "k"), "posix");
-  EXPECT_EQ(ReadINI(files, location, "plain.ini", "s", "k"), "command line");
-  EXPECT_EQ(ReadINI(files, location, "C:\\gone.ini", "s", "k"), "");
+  ProfileReader profile(files, location);
+  EXPECT_EQ(profile.ReadINI("/etc/x.ini", "s", "k"), "posix");
+  EXPECT_EQ(profile.ReadINI("plain.ini", "s", "k"), "command line");
+  EXPECT_EQ(profile.ReadINI("C:\\gone.ini", "s", "k"), "");
 }
 
 TEST(Settings, SwitchesAreOnForAnythingButNought) {
@@ -83,8 +84,10 @@ TEST(Settings, SwitchesAreOnForAnythingButNought) {
   for (const auto& [text, on] : cases) {
     FakeFiles files;
     files.Put("C:\\tracker\\tracker.ini", "[ngTRACKER]\nCloneInit=" + std::string(text));
+    const ProgramLocation location{"", "C:\\tracker"};
+    ProfileReader profile(files, location);
     Settings settings;
-    ReadSettings(files, {"", "C:\\tracker"}, settings);
+    ReadSettings(profile, settings);
     EXPECT_EQ(static_cast<bool>(settings.CloneInit), on) << text;
     EXPECT_FALSE(static_cast<bool>(settings.DisableNGDR));
     EXPECT_EQ(settings.DatDir, "c:\\Program Files\\Forgekit\\DATA");
@@ -134,7 +137,9 @@ TEST(Startup, WithoutACharacterDirectoryTheOptionsComeFirstAndCountFromTheNextSt
 
   // The next start has all of it and asks nothing.
   program.prompts.TakeLog();
+  program.files.reads.clear();
   EXPECT_TRUE(Main(program.session, windows));
+  EXPECT_EQ(program.files.reads["c:\\tracker\\tracker.ini"], 1);
   EXPECT_EQ(settings.NG3Dir, "E:\\people");
   EXPECT_EQ(program.prompts.log.front(), "splash");
   EXPECT_EQ(program.prompts.log.size(), 4U);

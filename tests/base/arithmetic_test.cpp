@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "base/fixed_table.h"
+#include "base/index.h"
 #include "base/integer.h"
 #include "fakes/expect_error.h"
 
@@ -27,6 +28,11 @@ TEST(Boolean, IsTrueForMinusOneOnly) {
   for (const int raw : {0, 1, 2, -2}) EXPECT_FALSE(static_cast<bool>(Boolean::FromRaw(raw)));
 }
 
+static_assert(std::is_convertible_v<bool, Boolean>);
+static_assert(!std::is_constructible_v<Boolean, int>);
+static_assert(!std::is_constructible_v<Boolean, Integer>);
+static_assert(!std::is_constructible_v<Boolean, const char*>);
+
 TEST(FixedTable, RefusesEveryIndexOutside) {
   FixedTable<int, 3> table;
   table[0] = 10;
@@ -34,6 +40,27 @@ TEST(FixedTable, RefusesEveryIndexOutside) {
   EXPECT_EQ(table[0] + table[3], 23);
   EXPECT_RUNTIME_ERROR(table[4], "Subscript out of range");
   EXPECT_RUNTIME_ERROR(table[Integer(-1)], "Subscript out of range");
+}
+
+using Here = Index<struct HereTag>;
+using There = Index<struct ThereTag>;
+template <typename Key>
+concept LooksUp = requires(FixedTable<int, 3, Here>& table, Key key) {
+  table[key];
+};
+static_assert(LooksUp<Here> && !LooksUp<There> && !LooksUp<Integer>);
+static_assert(!std::is_constructible_v<Here, There>);
+
+TEST(Index, MayHoldAnySixteenBitNumberAndIsRefusedByItsTable) {
+  FixedTable<int, 3, Here> table;
+  int added = 0;
+  for (const Here here : IndexRange<Here>(1, 3)) added += table[here] = here.Value();
+  EXPECT_EQ(added, 6);
+  for (const Here here : IndexRange<Here>(3, 2)) FAIL() << here.Value();
+  for (const int number : {-32768, -1, 4, 32767}) {
+    EXPECT_RUNTIME_ERROR(table[Here::From(number)], "Subscript out of range");
+  }
+  EXPECT_RUNTIME_ERROR(Here::From(32768), "Overflow");
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "combat/firing.h"
 
 #include <gtest/gtest.h>
+#include <utility>
 
 #include "base/number_text.h"
 #include "fakes/test_program.h"
@@ -64,7 +65,7 @@ TEST_F(FiringTest, AttacksWaitForTheTurnAndReactionsForTheOthers) {
   program.Do("cmdBody");
   EXPECT_EQ(program.prompts.TakeLog(), Log{"message \"Cannot Dodge/Body on your turn\""});
   const std::string shoot = "message \"Can only shoot on PC's turn!\"";
-  for (const int displayed : {0, 2, 1}) {
+  for (const Slot displayed : {Slot(0), Slot(2), Slot(1)}) {
     if (displayed == 1) program.Do("mnuTPrev");  // Ash stands first, but before the first step
     main.XFerPC(displayed);
     program.prompts.TakeLog();
@@ -72,7 +73,7 @@ TEST_F(FiringTest, AttacksWaitForTheTurnAndReactionsForTheOthers) {
     for (const char* act : {"cmdShots1", "cmdShots3", "cmdShotsFA", "cmdUnarmed"}) program.Do(act);
     EXPECT_EQ(program.prompts.TakeLog(),
               (Log{shoot, shoot, shoot, "message \"Can only fight on PC's turn!\""}));
-    EXPECT_EQ(program.fight.Players[displayed], before) << displayed;
+    EXPECT_EQ(program.fight.Players[displayed], before) << displayed.Value();
   }
   EXPECT_FALSE(roller.visible);
   program.Do("cmdBody");
@@ -92,12 +93,15 @@ TEST_F(FiringTest, FiresUntilTheMagazineIsEmpty) {
     EXPECT_EQ(panel.txtTBTT[0] + panel.txtShots[0] + ash.PrimAmmo, total + total + total);
     EXPECT_EQ(main.firing.BurstFire(), Boolean(burst)) << act;
     EXPECT_EQ(ash.FiredThisTurn, Boolean(rounds > 0)) << act;
+    EXPECT_EQ(std::exchange(main.statusMessage, ""),
+              "No firing skill chosen for this weapon: base number 4 at any range");
   }
   program.prompts.TakeLog();
   program.Do("cmdShots1");
   program.Do("cmdShotsFA");
   program.Do("cmdShots3", 1);  // nothing in the second hand
   EXPECT_EQ(program.prompts.TakeLog(), Log(3, "message \"Weapon empty\""));
+  EXPECT_EQ(main.statusMessage, "");
 
   program.Do("cmdShotsZ");
   EXPECT_EQ(main.gmLog.lstGMinfo(), (Log{"Ash", "Reload:Mower (old) (HMG)Shots fired:40"}));
@@ -209,6 +213,7 @@ TEST_F(FiringTest, SkillsAreChosenAndHandedOver) {
   Ready("cmdSetSecond", 1);
   program.Do("cmdShots3", 1);
   EXPECT_EQ(roller.lblSkill + roller.skill + roller.DamageCode, "Gunnery\t[3]310S");
+  EXPECT_EQ(main.statusMessage, "Ready");
   EXPECT_EQ(ash.SkillWeapType.Value(), 2);
   program.Do("cmdUnarmed");
   EXPECT_EQ(roller.lblSkill + roller.txtNumDice, "ma: kick\t[2/7]7");
@@ -240,6 +245,61 @@ TEST_F(FiringTest, DiceInATestStayTheirOwners) {
   EXPECT_EQ(roller.txtCPx, std::to_string(before - 2));
   program.Do("ngdr.cmdRoll");
   EXPECT_EQ(main.pools.txtCP, std::to_string(before - 2));
+}
+
+TEST_F(FiringTest, AnOpenTestIsItsShootersWhoeverIsDisplayed) {
+  const auto test = [this] {
+    std::string boxes = roller.txtTargetNum + "|" + roller.lblSum + "|" + roller.txtNumDice + "|" +
+                        roller.BaseCaption() + "|" + roller.BodyOfTest() + "|" + roller.DamageCode;
+    for (const std::string& box : roller.board.txtRVar) boxes += "|" + box;
+    return boxes;
+  };
+  PlayerRecord& birch = program.fight.Players[2];
+  birch.TNDamMod = 3;
+  birch.natLowLight = true;
+  birch.RangeSelPrim = 3;
+  birch.SkillWeapType = 2;
+  Choose("cmdSkillSecondary", 0, specialisation);
+  Ready("cmdSetSecond", 0);
+  program.Do("optRangeSel", 5);
+  program.Do("cmdShots3", 1);
+  program.Do("ngdr.cmbVisability", 1);
+  program.Do("ngdr.txtTargetNum", 0, "11");
+  const std::string shot = test();
+  program.Do("GridX_Click", 2);
+  for (const char* act : {"chkSmL", "cmdMDam", "cmdIncrease", "chkTwoGuns"}) program.Do(act, 0);
+  program.Do("optRangeSel", 3);
+  EXPECT_EQ(test(), shot);
+  program.Do("GridX_Click", 1);
+  EXPECT_EQ(test(), shot);
+  // The shooter's own wounds count, and they are not the displayed combatant's.
+  program.Do("cmdLDam", 0);
+  EXPECT_EQ(roller.lblSum, "Base 5  +  modifiers 6  =  11");
+  program.Do("cmdLDam", 1);
+  program.Do("GridX_Click", 2);
+  EXPECT_EQ(roller.lblSum, "Base 5  +  modifiers 7  =  12");
+  // With the roll, or with the shooter, the test is over.
+  program.uniform.RepeatFace(2);
+  program.Do("ngdr.cmdRoll");
+  EXPECT_NE(test(), shot);
+  EXPECT_EQ(roller.Tester(), program.fight.CurrentPCpointer);
+  program.Do("GridX_Click", 1);
+  program.Do("cmdShots1", 1);
+  program.Do("mnuPRemove");
+  EXPECT_EQ(roller.Tester().Value(), 0);
+}
+
+TEST_F(FiringTest, ASheetThatIsNotShownAgainGoesOverTheClearedCounts) {
+  // Ash, without a score, is looked at before Birch acts again: the count is cleared, and the sheet
+  // that still shows three rounds is stored before the look at Birch.
+  ash.RRSLT = 0;
+  program.Do("mnuTReset");
+  program.Do("mnuTNext");
+  program.Do("GridX_Click", 2);
+  program.Do("txtTBTT", 0, "3");
+  program.Do("mnuTNext");
+  EXPECT_EQ(program.fight.CurrentPCpointer.Value(), 2);
+  EXPECT_EQ(ash.TBTTPrim, "3");
 }
 
 TEST_F(FiringTest, WoundsCountForADodgeOnceAsked) {

@@ -52,15 +52,15 @@ void FakeFiles::Append(const std::string& path, std::string_view bytes) {
   files_[Key(path)].append(bytes);
 }
 
-std::vector<std::string> FakeFiles::List(const std::string& directory, std::string_view ending) {
+FileList FakeFiles::List(const std::string& directory, std::string_view ending) {
   const std::string prefix = Key(directory) + "\\";
-  std::vector<std::string> names;
+  FileList list{{}, unlisted};
   for (const auto& [key, bytes] : files_) {
     if (!key.starts_with(prefix) || !key.ends_with(ending)) continue;
     const std::string name = key.substr(prefix.size());
-    if (!Contains(name, "\\")) names.push_back(name);
+    if (!Contains(name, "\\")) list.names.push_back(name);
   }
-  return names;
+  return list;
 }
 
 void Script::Check() const {
@@ -151,20 +151,6 @@ int FakeUserSettings::Get(const std::string& section, const std::string& key, in
 
 void FakeUserSettings::Save(const std::string& section, const std::string& key, int value) {
   values[section + "/" + key] = value;
-}
-
-std::string Quoted(std::string_view text) {
-  std::string result = "\"";
-  for (const char c : text) {
-    if (c >= ' ' && c <= '~' && c != '"' && c != '%') {
-      result += c;
-    } else {
-      std::array<char, 4> code{};
-      std::snprintf(code.data(), code.size(), "%%%02X", static_cast<unsigned char>(c));
-      result += code.data();
-    }
-  }
-  return result + "\"";
 }
 
 }  // namespace ng

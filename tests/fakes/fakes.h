@@ -8,6 +8,8 @@
 
 #include "app/act.h"
 #include "base/ports.h"
+#include "journal/act_text.h"
+#include "journal/entry.h"
 
 namespace ng {
 
@@ -23,10 +25,12 @@ class FakeFiles : public Files {
   std::string ReadWhole(const std::string& path) override;
   void Replace(const std::string& path, std::string_view bytes) override;
   void Append(const std::string& path, std::string_view bytes) override;
-  std::vector<std::string> List(const std::string& directory, std::string_view ending) override;
+  FileList List(const std::string& directory, std::string_view ending) override;
 
   /// The n-th write from now on finds the disk full; 0 for none.
   int failingWrite = 0;
+  /// How many files every directory has that cannot be named.
+  int unlisted = 0;
   /// How often each file was read.
   std::map<std::string, int> reads;
 
@@ -76,13 +80,7 @@ class ScriptedUniform : public Uniform, public Script {
 /// unexpected question ends the test.
 class ScriptedPrompts : public Prompts, public Script {
  public:
-  struct Answer {
-    enum class Kind { Input, File, Cancel, Save, Discard, Modal };
-    Kind kind;
-    std::string text;
-    /// What is done in a modal form.
-    std::vector<Act> acts;
-  };
+  using Answer = ng::Answer;
 
   std::deque<Answer> answers;
   /// `message "..."`, `beep`, `input "..."`, one entry each.
@@ -119,8 +117,5 @@ class FakeUserSettings : public UserSettings {
 
   std::map<std::string, int> values;
 };
-
-/// A text in quotes with everything that is no plain character as "%" and two hexadecimal digits.
-std::string Quoted(std::string_view text);
 
 }  // namespace ng

@@ -30,12 +30,14 @@ struct TestProgram {
   /// A combatant in the next slot and at the end of the order, with this initiative. It has no
   /// sheet; `CharacterData` only marks the slot as taken.
   PlayerRecord& Add(const std::string& name, Integer rolled = 0) {
-    const Slot slot = fight.CountPlayers() + 1;
+    const Integer number = fight.CountPlayers() + 1;
+    const Slot slot = Slot::From(number);
     PlayerRecord& record = fight.Players[slot];
     record.Name = name;
     record.RRSLT = rolled;
-    record.CharacterData = slot;
-    fight.InitOrder[slot] = slot;
+    record.CharacterData = CharacterIndex::From(number);
+    fight.InitOrder[OrderPosition::From(number)] = slot;
+    fight.Recount();
     main.sequencer.SortInitiative();
     return record;
   }
@@ -43,7 +45,7 @@ struct TestProgram {
   /// The names of the combatants in their order.
   std::string Order() {
     std::string names;
-    for (int p = 1; p <= fight.CountPlayers(); ++p) {
+    for (const OrderPosition p : PositionsUpTo(fight.CountPlayers())) {
       names += (p > 1 ? " " : "") + fight.Players[fight.InitOrder[p]].Name;
     }
     return names;

@@ -1,5 +1,5 @@
-// Plays a file of acts through the program's door and prints, after each act, what was shown and
-// asked and every value that changed. docs/golden-fights.md tells the formats.
+// Plays a file of acts, or a journal, through the program's door and prints, after each act, what
+// was shown and asked and every value that changed. docs/golden-fights.md tells the formats.
 //
 //   play FILE            prints the transcript
 //   play FILE EXPECTED   compares it with the file EXPECTED; exit code 1 where they differ
@@ -13,23 +13,29 @@
 
 #include "golden/player.h"
 
+namespace {
+
+std::string ReadFile(const char* path) {
+  std::ifstream file(path, std::ios::binary);
+  if (!file) throw std::runtime_error(std::string("cannot read ") + path);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
   if (argc < 2 || argc > 3) {
     std::cerr << "usage: play FILE [EXPECTED]\n";
     return 2;
   }
   try {
-    std::ifstream script(argv[1], std::ios::binary);
-    if (!script) throw std::runtime_error(std::string("cannot read ") + argv[1]);
     std::ostringstream transcript;
-    ng::Play(script, transcript);
+    ng::Play(ReadFile(argv[1]), transcript);
     if (argc == 2) {
       std::cout << transcript.str();
       return 0;
     }
-    std::ifstream file(argv[2], std::ios::binary);
-    if (!file) throw std::runtime_error(std::string("cannot read ") + argv[2]);
-    std::istringstream expected(std::string(std::istreambuf_iterator<char>(file), {}));
+    std::istringstream expected(ReadFile(argv[2]));
     std::istringstream played(transcript.str());
     std::string want;
     std::string got;

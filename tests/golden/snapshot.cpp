@@ -15,20 +15,6 @@ namespace {
 
 constexpr const char* kClosed = "closed";
 
-const char* ColourName(InitiativeGrid::Colour colour) {
-  switch (colour) {
-    case InitiativeGrid::Colour::White:
-      return "white";
-    case InitiativeGrid::Colour::Green:
-      return "green";
-    case InitiativeGrid::Colour::Yellow:
-      return "yellow";
-    case InitiativeGrid::Colour::Red:
-      return "red";
-  }
-  return "?";
-}
-
 class SnapshotVisitor : public ControlVisitor {
  public:
   SnapshotVisitor(Snapshot& snapshot, std::string prefix)
@@ -55,24 +41,20 @@ class SnapshotVisitor : public ControlVisitor {
           (lines[i].carried ? "[x] " : "[ ] ") + Quoted(lines[i].text));
     }
   }
+  void Turn(ControlName control, TurnState state) override {
+    Add(Name(control), Quoted(LookOf(state).badge));
+  }
   void Grid(ControlName control, const InitiativeGrid& grid, int shownRow) override {
     for (int row = 1; row <= grid.RowCount(); ++row) {
       const InitiativeGrid::Row& cells = grid.RowAt(row);
       std::string value;
       for (const std::string& text : cells.text) value += Quoted(text) + " ";
-      Add(Name(control) + " row " + std::to_string(row), value + ColourName(cells.colour[0]));
+      Add(Name(control) + " row " + std::to_string(row),
+          value + LookOf(cells.colour[0]).colourName);
     }
     Add(Name(control) + " cell",
         std::to_string(grid.CurrentRow()) + " " + std::to_string(grid.CurrentColumn()));
     Add(Name(control) + " shown", std::to_string(shownRow));
-  }
-  void Help(ControlName control, const HelpForm& help) override {
-    int number = 0;
-    for (const HelpLine& line : help.lines) {
-      std::string cells;
-      for (const std::string& cell : line.cells) cells += " " + Quoted(cell);
-      Add(Name(control) + " " + std::to_string(number++), cells.substr(1));
-    }
   }
 
  private:
@@ -92,17 +74,18 @@ class SnapshotVisitor : public ControlVisitor {
 
 void AddFight(const Fight& fight, Snapshot& snapshot) {
   for (const FightField& field : FightFields()) {
-    snapshot.emplace_back(field.name, PlainText(fight.*field.member));
+    snapshot.emplace_back(field.name, PlainText(NumberIn(fight, field.member)));
   }
   snapshot.emplace_back("GlobalEvents", Quoted(fight.GlobalEvents));
   for (int i = 0; i <= Fight::kLastSlot; ++i) {
     const std::string number = std::to_string(i);
-    snapshot.emplace_back("InitOrder " + number, PlainText(fight.InitOrder[i]));
+    snapshot.emplace_back("InitOrder " + number,
+                          PlainText(fight.InitOrder[OrderPosition::From(i)].Value()));
     snapshot.emplace_back("Turn" + number, PlainText(fight.TurnHistory[i].Turn));
     snapshot.emplace_back("2Turn" + number, PlainText(fight.TurnHistory[i].TwoTurn));
     for (const PlayerField& field : PlayerFields()) {
       snapshot.emplace_back("Slot" + number + " " + field.name,
-                            Quoted(FieldText(fight.Players[i], field)));
+                            Quoted(FieldText(fight.Players[Slot::From(i)], field)));
     }
   }
 }
@@ -140,7 +123,7 @@ std::vector<std::string> Differences(const Snapshot& before, const Snapshot& aft
   }
   for (const auto& [name, value] : before) {
     if (old.count(name) == 0) continue;
-    // What stood in a window that was closed went with it.
+    // What was in a window that was closed went with it.
     const auto window = now.find(name.substr(0, name.find('.')));
     if (window == now.end() || window->second != kClosed) lines.push_back(name + " gone");
   }

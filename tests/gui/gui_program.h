@@ -20,6 +20,7 @@
 #include "base/seeded_uniform.h"
 #include "fakes/fakes.h"
 #include "ui/dialogs/prompts.h"
+#include "ui/look/row_colour.h"
 #include "ui/look/theme.h"
 #include "ui/main/main_window.h"
 #include "ui/wiring/text.h"
@@ -129,7 +130,7 @@ class GuiProgram : private StartupWindows {
   QString GreenName() const {
     for (int row = 1; row <= Rows(); ++row) {
       const auto colour = Model().index(row - 1, 0).data(Qt::BackgroundRole).value<QColor>();
-      if (colour == QColor(0, 255, 0)) return Cell(row, 0);
+      if (colour == ToQColor(RowColour::Green)) return Cell(row, 0);
     }
     return {};
   }

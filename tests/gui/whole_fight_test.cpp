@@ -77,6 +77,9 @@ void WholeFightTest::ShootAsVex() const {
   program_->Key(Qt::Key_T, Qt::ControlModifier);
   program_->Key(Qt::Key_F8);
   QCOMPARE(program_->GreenName(), QStringLiteral("Vex"));
+  const QAbstractItemModel& rows = *program_->Find<QTableView>("GridX").model();
+  QCOMPARE(rows.index(0, 0).data(Qt::AccessibleTextRole).toString(),
+           QStringLiteral("Vex, On turn"));
   program_->OpenPage(1);
   ClickLine("lstWeapon", "Harrow 12 (SMG)");
   program_->Click("cmdSetPrim");

@@ -49,10 +49,11 @@ constexpr const char* kNeither[] = {"headerPanel", "testStrip", "toolBar",      
 /// Modifiers that no caption, list or rule ever fills.
 constexpr const char* kUnseen[] = {"txtRVar_8", "txtRVar_9", "txtRVar_13"};
 
-/// Commands that no widget sends: the start, the end, and files that are dropped.
-constexpr const char* kWithoutWidget[] = {"Form_Load", "Form_Unload",   "MainLeft",
-                                          "MainTop",   "MainWidth",     "MainHeight",
-                                          "Form_Drop", "ngdr.Form_Load"};
+/// Commands that no widget sends by its name: the start, the end, files that are dropped, and
+/// characters that a box has left out.
+constexpr const char* kWithoutWidget[] = {"Form_Load", "Form_Unload",  "MainLeft",
+                                          "MainTop",   "MainWidth",    "MainHeight",
+                                          "Form_Drop", "Form_LeftOut", "ngdr.Form_Load"};
 
 template <typename Names>
 bool Has(const Names& names, const QString& name) {
@@ -75,8 +76,8 @@ class ControlNames : public ControlVisitor {
   void Level(ControlName control, int) override { Add(control); }
   void List(ControlName control, const std::vector<std::string>&) override { Add(control); }
   void CheckList(ControlName control, const std::vector<CarriedLine>&) override { Add(control); }
+  void Turn(ControlName control, TurnState) override { Add(control); }
   void Grid(ControlName control, const InitiativeGrid&, int) override { Add(control); }
-  void Help(ControlName control, const HelpForm&) override { Add(control); }
 
  private:
   void Add(ControlName control, const QString& option = {}) {
@@ -234,7 +235,7 @@ void WiringTest::UseList(QTreeWidget& list) {
 
 void WiringTest::UseGrid(QWidget& grid) const {
   program_->ClickCell(1, 1);
-  for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Down, Qt::Key_Right, Qt::Key_5}) {
+  for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Down, Qt::Key_Right, Qt::Key_5, Qt::Key_Escape}) {
     QTest::keyClick(&grid, key);
   }
 }

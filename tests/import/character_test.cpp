@@ -284,36 +284,5 @@ TEST(Import, WhatDoesNotFitLeavesTheFightAsItWas) {
   refused({0}, "message \"Subscript out of range\"");
 }
 
-TEST(Loader, ListsSelectsAndKeepsTheDirectory) {
-  TestProgram program;
-  for (const char* name : {"a.ng3", "b.NG3", "c.ng3", "d.txt"}) {
-    program.files.Put("C:\\chars\\" + std::string(name), "[General]\n");
-    program.files.Put("D:\\more\\" + std::string(name), "[General]\n");
-  }
-  LoaderForm& loader = program.session.loader;
-  loader.Form_Load();
-  EXPECT_EQ(loader.Drive1, "C:");
-  ASSERT_EQ(loader.filesXML.size(), 3U);
-  program.Do("frmLoader.filesXML_Select", 2);
-  program.Do("frmLoader.filesXML_Select", 1);
-  program.Do("frmLoader.filesXML_Select", 0);
-  program.Do("frmLoader.filesXML_Unselect", 1);
-  program.Do("frmLoader.cmdLoad");
-  EXPECT_EQ(loader.selectionList, "a.ng3|c.ng3|");
-  EXPECT_FALSE(loader.open);
-  loader.Form_Load();
-  EXPECT_EQ(loader.selectionList, "");
-  program.Do("frmLoader.Drive1", 0, "D: [Data]");
-  EXPECT_EQ(loader.DirListBox, "D:");
-  program.Do("frmLoader.DirListBox", 0, "D:\\more");
-  EXPECT_EQ(loader.filesXML.size(), 3U);
-  program.Do("frmLoader.cmdCancel");
-  EXPECT_EQ(program.session.environment.settings.NG3Dir, "D:\\more");
-  EXPECT_EQ(FullCharacterName("D:\\more", "a.ng3"), "D:\\more\\a.ng3");
-  EXPECT_EQ(FullCharacterName("D:\\more", "/home/a.ng3"), "/home/a.ng3");
-  program.Import({});
-  EXPECT_EQ(program.fight.CountPlayers().Value(), 0);
-}
-
 }  // namespace
 }  // namespace ng

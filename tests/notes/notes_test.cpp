@@ -36,21 +36,30 @@ TEST(LogViewer, ShowsWhatTheLogKept) {
   EXPECT_RUNTIME_ERROR(viewer.Form_Load(files, "C:\\log.txt"), "File not found");
   EXPECT_FALSE(viewer.open);
 
-  Lines reports;
-  GmLog log(files, "C:\\log.txt", [&](const std::string& text) { reports.push_back(text); });
+  GmLog log(files, "C:\\log.txt");
   log.Add("one");
   log.Add("");
   viewer.Form_Load(files, "C:\\log.txt");
   EXPECT_EQ(viewer.lstDisplay, (Lines{"one", ""}));
   EXPECT_TRUE(viewer.open);
-  for (const char* line : {"lost", "lost too"}) {
+  // A failure is shown until it is seen, and again once the file could be written in between.
+  const auto lose = [&](const char* line) {
     files.failingWrite = 1;
     log.Add(line);
-  }
+  };
+  lose("lost");
+  EXPECT_EQ(log.lblLogFailure(), "Log not written: Disk full");
+  log.FailureSeen();
+  lose("lost too");
+  EXPECT_EQ(log.lblLogFailure(), "");
   viewer.Form_Load(files, "C:\\log.txt");
   EXPECT_EQ(viewer.lstDisplay, (Lines{"one", ""}));
   EXPECT_EQ(log.lstGMinfo(), (Lines{"one", "", "lost", "lost too"}));
-  EXPECT_EQ(reports.size(), 1U);
+  log.Add("kept");
+  EXPECT_EQ(log.lblLogFailure(), "");
+  lose("lost again");
+  log.Add("kept");
+  EXPECT_EQ(log.lblLogFailure(), "Log not written: Disk full");
 }
 
 TEST(InfoIndex, FindsEntriesAndTheirLines) {
@@ -65,13 +74,13 @@ TEST(InfoIndex, FindsEntriesAndTheirLines) {
   EXPECT_EQ(info.Matching("").size(), 3U);
   EXPECT_EQ(info.Find("sea"), 2);
   EXPECT_EQ(info.Find("se"), -1);
-  EXPECT_EQ(info.EntryLines(files, 0), (Lines{"No|modifier", "!more of it", ""}));
-  EXPECT_EQ(info.EntryLines(files, 1), Lines{""});
-  EXPECT_EQ(info.EntryLines(files, 2), Lines{"Salt"});
-  EXPECT_EQ(info.EntryLines(files, 3), Lines{});
-  EXPECT_RUNTIME_ERROR(info.EntryLines(files, -1), "Subscript out of range");
+  EXPECT_EQ(info.EntryText(files, 0), "No|modifier\r\n!more of it\r\n");
+  EXPECT_EQ(info.EntryText(files, 1), "");
+  EXPECT_EQ(info.EntryText(files, 2), "Salt");
+  EXPECT_EQ(info.EntryText(files, 3), "");
+  EXPECT_RUNTIME_ERROR(info.EntryText(files, -1), "Subscript out of range");
   files.Put("C:\\info.dat", "! cut short");
-  EXPECT_EQ(info.EntryLines(files, 2), Lines{});
+  EXPECT_EQ(info.EntryText(files, 2), "");
 }
 
 TEST(InfoIndex, TheTwoHundredAndFirstEntryIsTheLast) {
@@ -86,7 +95,7 @@ TEST(InfoIndex, TheTwoHundredAndFirstEntryIsTheLast) {
   EXPECT_EQ(info.Load(files, {"C:\\info.dat"}), "Error opening: Info.dat");
   EXPECT_EQ(info.Count(), 201);
   EXPECT_EQ(info.At(200).line.Value(), 203);
-  EXPECT_EQ(info.EntryLines(files, 200), Lines{"kept"});
+  EXPECT_EQ(info.EntryText(files, 200), "kept");
 }
 
 }  // namespace

@@ -1,16 +1,20 @@
 #include "platform/files.h"
 
 #include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "fakes/expect_error.h"
+#include "platform/native_path.h"
 
 #ifndef _WIN32
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #endif
 
 namespace ng {
@@ -43,7 +47,7 @@ TEST_F(NativeFilesTest, ReplacesAndAppendsThroughTheProgramsPaths) {
   files_.Replace(PathOf("saves\\FIGHT.NGT"), "second\r\n");
   files_.Append(PathOf("Saves\\fight.ngt"), "third");
   EXPECT_EQ(files_.ReadWhole(PathOf("Saves\\Fight.ngt")), "second\r\nthird");
-  EXPECT_EQ(files_.List(PathOf("SAVES"), ".NGT"), std::vector<std::string>{"Fight.ngt"});
+  EXPECT_EQ(files_.List(PathOf("SAVES"), ".NGT").names, std::vector<std::string>{"Fight.ngt"});
 
   files_.Append(PathOf("log.txt"), "begun");
   EXPECT_EQ(files_.ReadWhole(PathOf("log.txt")), "begun");
@@ -54,6 +58,54 @@ TEST_F(NativeFilesTest, ReplacesAndAppendsThroughTheProgramsPaths) {
 }
 
 #ifndef _WIN32
+TEST_F(NativeFilesTest, OpensNothingButRegularFiles) {
+  ASSERT_EQ(mkfifo((directory_ / "pipe").c_str(), 0600), 0);
+  fs::create_symlink("/dev/zero", directory_ / "device");
+  fs::create_directory(directory_ / "folder");
+  for (const char* name : {"pipe", "device", "folder"}) {
+    const std::string path = PathOf(name);
+    const fs::file_status before = fs::status(directory_ / name);
+    EXPECT_RUNTIME_ERROR(files_.ReadWhole(path), "Path/File access error");
+    EXPECT_RUNTIME_ERROR(files_.Replace(path, "x"), "Path/File access error");
+    EXPECT_RUNTIME_ERROR(files_.Append(path, "x"), "Path/File access error");
+    EXPECT_EQ(fs::status(directory_ / name).type(), before.type());
+  }
+  files_.Replace(PathOf("fight.ngt"), "text");
+  fs::create_symlink("fight.ngt", directory_ / "link");
+  EXPECT_EQ(files_.ReadWhole(PathOf("link")), "text");
+  fs::resize_file(directory_ / "fight.ngt", 300'000'000);
+  EXPECT_RUNTIME_ERROR(files_.ReadWhole(PathOf("link")), "Out of memory");
+}
+
+TEST_F(NativeFilesTest, ListsEveryFileByANameThatOpensIt) {
+  const fs::path folder = directory_ / "\u017Bar";
+  fs::create_directories(folder / "\u0110ir.ng3");
+  const auto put = [&](const std::string& name) { std::ofstream(folder / name) << name; };
+  const std::set<std::string> listed = {"plain.ng3", "\u0141ukasz.ng3", "\u00C9mile.ng3",
+                                        "a|b.ng3",   "c\\d.ng3",        "line\nbreak.ng3",
+                                        "x:y.ng3",   "\xFF.ng3"};
+  for (const std::string& name : listed) put(name);
+  // Shown alike, one with a folder.
+  for (const char* name : {"\u0104b.ng3", "\u0118B.NG3", "\u013Dir.ng3"}) put(name);
+
+  const FileList list = files_.List(PathOf("?ar"), ".ng3");
+  EXPECT_EQ(list.unlisted, 3);
+  std::set<std::string> opened;
+  for (const std::string& name : list.names)
+    opened.insert(files_.ReadWhole(PathOf("?ar\\" + name)));
+  EXPECT_EQ(opened, listed);
+  EXPECT_EQ(list.names.front() + " " + list.names.back(), "?.ng3 \xC9mile.ng3");
+
+  EXPECT_RUNTIME_ERROR(files_.ReadWhole(PathOf("?ar\\?b.ng3")), "File not found");
+  files_.Replace(PathOf("?ar\\?ukasz.ng3"), "kept");
+  std::ifstream replaced(folder / "\u0141ukasz.ng3");
+  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(replaced), {}), "kept");
+  EXPECT_RUNTIME_ERROR(files_.Replace(PathOf("?new.ngt"), "x"),
+                       "Bad file name or number\r\n?new.ngt");
+  EXPECT_RUNTIME_ERROR(files_.Append(PathOf("?ar\\?.ng3"), "x"),
+                       "Bad file name or number\r\n" + PathText(folder / "\xFF.ng3"));
+}
+
 /// While it lives no file of this process grows past `bytes`; a write that would go on there fails.
 class FileSizeLimit {
  public:

@@ -10,9 +10,11 @@ namespace ng {
 namespace {
 
 /// A roller beside a fight of two: Vex in slot 1, displayed, and Marrow in slot 2.
-struct Roller : testing::Test {
+struct Roller : testing::Test, DiceRoller::Weapons {
   Roller() {
     fight.CurrentPCpointer = 1;
+    vex.Name = "Vex";
+    fight.Players[2].Name = "Marrow";
     vex.SkillWeapType = 1;
     files.Put("D:\\visability.dat", "Full light|0|0|0|0|0\nHalf light|2|1|0|2|1\n");
     roller.Form_Load(files, "D:");
@@ -23,8 +25,9 @@ struct Roller : testing::Test {
   Fight fight;
   PlayerRecord& vex = fight.Players[1];
   bool melee = false;
-  DiceRoller roller{fight, uniform, prompts, [this](Slot, Integer pool) { vex.CP = pool; },
-                    [this](Weapon) { return melee; }};
+  bool WieldsInMelee(const PlayerRecord&, Weapon) const override { return melee; }
+  Integer WeaponModifier(const PlayerRecord& who, Weapon) const override { return who.TNDamMod; }
+  DiceRoller roller{fight, uniform, prompts, *this, [this](Slot, Integer pool) { vex.CP = pool; }};
 };
 
 TEST_F(Roller, AnExchangeFromShotToShot) {
@@ -73,7 +76,8 @@ TEST_F(Roller, AnExchangeFromShotToShot) {
 
 TEST_F(Roller, CountsSuccessesAndOnesEvenWithoutTheVisibilityTable) {
   roller.Form_Load(files, "E:");
-  EXPECT_EQ(prompts.TakeLog(), (std::vector<std::string>{"message \"File not found\""}));
+  EXPECT_EQ(prompts.TakeLog(),
+            std::vector<std::string>{"message \"File not found%0D%0AE:\\visability.dat\""});
   uniform.RepeatFace(5);
   roller.vNumDice(32767);
   roller.cmdRoll();
@@ -123,9 +127,11 @@ TEST_F(Roller, TheTargetNumberFollowsTheRangeAndWhatChanges) {
   // A number typed over it stands while nothing that it is made of changes.
   roller.txtTargetNum_Change("11");
   roller.URCsecondary(5);
+  roller.Follow();
   roller.optRangeSel_Click(Weapon::Primary);
   EXPECT_EQ(roller.txtTargetNum, "11");
   roller.URCprimary(-1);
+  roller.Follow();
   roller.txtRangeTargetNumber_Change("4.5");
   roller.cmbAttackerMove_Click(1);
   EXPECT_EQ(roller.txtTargetNum, "9.5");

@@ -18,8 +18,9 @@ TEST(Visability, LoadsUntilItsEndOrAnError) {
       {ten, 10, ""},
       {ten + "11|0|1|2|3|4", 11, full},
       {ten + "11|0|1|2|3|4\n12|0|1|2|3|4", 11, full},
-      {"Fog|1|2|3|4|5|spare\nMist|1|2|3|4\nRain|1|2|3|4|5", 1, "Subscript out of range"},
-      {"Fog|+1|-2| 3 |4|5\nMist|1|2|3|4|x\n", 1, "Type mismatch"}};
+      {"Fog|1|2|3|4|5|spare\nMist|1|2|3|4\nRain|1|2|3|4|5", 1,
+       "Subscript out of range\r\nD:\\DATA\\visability.dat"},
+      {"Fog|+1|-2| 3 |4|5\nMist|1|2|3|4|x\n", 1, "Type mismatch\r\nD:\\DATA\\visability.dat"}};
   for (const auto& [text, count, message] : cases) {
     FakeFiles files;
     files.Put("D:\\DATA\\visability.dat", text);

@@ -20,7 +20,7 @@ class ActionsTest : public testing::Test {
     program.Do("mnuTReset");
   }
 
-  PlayerRecord& Of(int slot) { return program.fight.Players[slot]; }
+  PlayerRecord& Of(Slot slot) { return program.fight.Players[slot]; }
   void Answer(const std::string& text) {
     program.prompts.answers.push_back({ScriptedPrompts::Answer::Kind::Input, text, {}});
   }
@@ -86,7 +86,7 @@ TEST_F(ActionsTest, InactiveCombatantsLoseTheirRollAndComeBackWithAFreshOne) {
   EXPECT_EQ(Of(2).FRSLT.Value(), 8);  // not before the next sort
   EXPECT_EQ(program.main.header.txtRRSLT, "0");
   EXPECT_EQ(program.main.GridX.RowAt(2).colour[0], Colour::Red);
-  EXPECT_EQ(program.main.TurnBadge(), "Inactive");
+  EXPECT_EQ(program.main.TurnBadge(), TurnState::Inactive);
   program.uniform.PushFaces({3});
   program.Do("mnuPInactive");
   EXPECT_EQ(Of(2).RRSLT.Value(), 7);
@@ -175,7 +175,8 @@ TEST_F(ActionsTest, ADeletionLeavesAHoleThatACopyFillsWithoutLoss) {
 
 TEST_F(ActionsTest, ASheetIsReleasedWithItsLastUser) {
   CharacterTable& characters = program.main.characters;
-  for (int index = 1; index <= 3; ++index) characters.entries[index].Filename = "file";
+  for (const CharacterIndex index : IndexRange<CharacterIndex>(1, 3))
+    characters.entries[index].Filename = "file";
   program.Do("GridX_Click", 1);
   Answer("1");
   program.Do("mnuPMult");

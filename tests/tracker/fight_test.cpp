@@ -12,9 +12,8 @@ TEST(Fight, CountingAndFreeSlotsGoByDifferentRules) {
   fight.Players[2].Name = "named";
   fight.Players[3].CharacterData = 1;  // a sheet without a name: neither counted nor free
   EXPECT_EQ(fight.CountPlayers().Value(), 1);
-  EXPECT_EQ(fight.NumPlayers.Value(), 1);
   EXPECT_EQ(fight.FindFreeSlot().Value(), 1);
-  for (int slot = 1; slot <= 100; ++slot) fight.Players[slot].CharacterData = 1;
+  for (const Slot slot : AllSlots()) fight.Players[slot].CharacterData = 1;
   EXPECT_EQ(fight.FindFreeSlot().Value(), 0);
 }
 
@@ -38,7 +37,7 @@ TEST(Fight, TheTurnStandsAtOnePosition) {
 
 TEST(Fight, LoopsBySlotPassOverACombatantBeyondAHole) {
   Fight fight;
-  for (const int slot : {1, 3}) {
+  for (const Slot slot : {Slot(1), Slot(3)}) {
     fight.Players[slot].Name = "x";
     fight.Players[slot].TurnDone = true;
   }

@@ -69,9 +69,14 @@ TEST(Grid, TypingEditsTheCellAndTheRollAtOnce) {
   EXPECT_EQ(cell(2, 1), "-");
   type(".");
   EXPECT_EQ(cell(2, 1), "");
-  EXPECT_EQ(program.fight.Players[2].RRSLT.Value(), 0);
-  type("4\x1b\b");
-  EXPECT_EQ(cell(2, 1), "");
+  // What is no whole number leaves the roll alone, and gives way to it when the grid is written.
+  EXPECT_EQ(program.fight.Players[2].RRSLT.Value(), 7);
+  program.main.GridX.RefreshGrid();
+  EXPECT_EQ(cell(2, 1), "7");
+  type("\b4\x1b");
+  EXPECT_EQ(cell(2, 1), "4");
+  type("\b-12");
+  EXPECT_EQ(program.fight.Players[2].RRSLT.Value(), -12);
   program.Do("GridX_PM", 2);
   type("zz");
   EXPECT_EQ(cell(2, 2), "zz");
@@ -82,6 +87,68 @@ TEST(Grid, TypingEditsTheCellAndTheRollAtOnce) {
   program.Do("GridX_Roll", 1);
   type("99999");
   EXPECT_EQ(program.prompts.log, (std::vector<std::string>{"message \"Overflow\""}));
+}
+
+TEST(Grid, TypingCanBeTakenBackUntilTheCellIsLeft) {
+  TestProgram program;
+  for (const char* name : {"Ash", "Birch", "Cedar"}) program.Add(name);
+  for (const Slot slot : SlotsUpTo(3)) program.fight.Players[slot].RRSLT = 12 - slot.Value();
+  program.Do("mnuTReset");
+  const auto type = [&](std::string_view keys) {
+    for (const char key : keys) program.Do("GridX_KeyPress", static_cast<unsigned char>(key));
+  };
+  const auto roll = [&](Slot slot) { return program.fight.Players[slot].RRSLT.Value(); };
+  program.Do("GridX_Click", 2);
+  type("3x");
+  program.Do("GridX_Restore");
+  EXPECT_EQ(program.main.GridX.RowAt(2).text[1], "10");
+  EXPECT_EQ(roll(2), 10);
+  EXPECT_EQ(program.main.header.txtRRSLT, "10");
+  program.Do("GridX_Restore");
+  EXPECT_EQ(roll(2), 10);
+  program.Do("GridX_PM", 2);
+  type("dazed");
+  program.Do("GridX_Restore");
+  EXPECT_EQ(program.fight.Players[2].CondCode, "");
+
+  // Left, or written over, it is not taken back.
+  type("x");
+  program.Do("GridX_Roll", 1);
+  program.Do("GridX_Roll", 2);
+  type(".3");
+  program.Do("mnuTNext");
+  program.Do("GridX_Roll", 1);
+  program.Do("GridX_Roll", 2);
+  program.Do("GridX_Restore");
+  EXPECT_EQ(program.fight.Players[2].CondCode, "x");
+  EXPECT_EQ(program.main.GridX.RowAt(2).text[1], "3");
+  program.Do("GridX_Click", 2);
+  type("5");
+  program.Do("txtRRSLT", 0, "8");
+  program.Do("GridX_Restore");
+  EXPECT_EQ(roll(2), 8);
+}
+
+TEST(Grid, TheCellStaysWithItsCombatant) {
+  TestProgram program;
+  for (const char* name : {"Ash", "Birch", "Cedar"}) program.Add(name);
+  for (const Slot slot : SlotsUpTo(3)) program.fight.Players[slot].RRSLT = 12 - slot.Value();
+  program.Do("mnuTReset");
+  program.Do("GridX_Roll", 1);
+  program.Do("GridX_Click", 1);
+  program.Do("cmdSDam", 0);  // a wound sorts Ash to the end
+  EXPECT_EQ(program.Order(), "Birch Cedar Ash");
+  EXPECT_EQ(program.main.GridX.CurrentRow(), 3);
+  program.Do("GridX_KeyPress", '7');
+  EXPECT_EQ(program.fight.Players[1].RRSLT.Value(), 7);
+  // With its combatant gone it stays in its row, if there is one.
+  program.Do("GridX_Roll", 2);
+  program.Do("GridX_Click", 2);
+  program.Do("mnuPRemove");
+  EXPECT_EQ(program.Order(), "Birch Ash");
+  EXPECT_EQ(program.main.GridX.CurrentRow(), 2);
+  program.Do("GridX_KeyPress", '4');
+  EXPECT_EQ(program.fight.Players[1].RRSLT.Value(), 4);
 }
 
 TEST(Grid, AClickKeepsTheTurnAndStoresTheSheetBefore) {
@@ -95,7 +162,7 @@ TEST(Grid, AClickKeepsTheTurnAndStoresTheSheetBefore) {
   EXPECT_EQ(program.main.header.lblName2, "Birch");
   EXPECT_EQ(program.fight.LTurn.Value(), 1);
   EXPECT_EQ(program.fight.Players[1].CP.Value(), 4);
-  EXPECT_EQ(program.main.TurnBadge(), "Waiting");
+  EXPECT_EQ(program.main.TurnBadge(), TurnState::Waiting);
   for (const int row : {0, 3, -1}) program.Do("GridX_Click", row);
   EXPECT_EQ(program.main.header.lblName2, "Birch");
 }

@@ -183,7 +183,7 @@ TEST(Sequencer, RerollSparesTheInactiveAndSharesCopies) {
   push();
   program.Do("mnuTReroll");
   // Containment, not a beginning: "Big Orc::2" shares with "Orc" as well.
-  for (const int slot : {1, 2, 3}) EXPECT_EQ(program.fight.Players[slot].RRSLT.Value(), 6);
+  for (const Slot slot : SlotsUpTo(3)) EXPECT_EQ(program.fight.Players[slot].RRSLT.Value(), 6);
 }
 
 TEST(Sequencer, CountersStartAnewAndPoolsFillAtTheTurn) {

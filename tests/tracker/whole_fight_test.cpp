@@ -25,18 +25,18 @@ class WholeFight : public testing::Test {
   std::string Next() {
     program.Do("mnuTNext");
     return program.main.sequencer.lblPhase() + " " + program.main.header.lblName2 + " " +
-           program.main.TurnBadge();
+           LookOf(program.main.TurnBadge()).badge;
   }
   void Show(const char* name) {
-    for (int p = 1; p <= fight.CountPlayers(); ++p) {
+    for (const OrderPosition p : PositionsUpTo(fight.CountPlayers())) {
       if (fight.Players[fight.InitOrder[p]].Name == name) {
-        program.Do("GridX_Click", p);
+        program.Do("GridX_Click", p.Value());
         return;
       }
     }
     FAIL() << name << " stands nowhere";
   }
-  Integer Score(int slot) { return fight.Players[slot].FRSLT; }
+  Integer Score(Slot slot) { return fight.Players[slot].FRSLT; }
   void Answer(const char* text) {
     program.prompts.answers.push_back({ScriptedPrompts::Answer::Kind::Input, text, {}});
   }
@@ -70,7 +70,7 @@ TEST_F(WholeFight, ThreeCombatTurnsOfAlleyAmbush) {
   // Vex interrupts Ganger::1, shoots Ganger down, and Ganger::1 still has its action.
   Show("Vex");
   program.Do("mnuPDelay");
-  EXPECT_EQ(program.main.TurnBadge(), "On turn");
+  EXPECT_EQ(program.main.TurnBadge(), TurnState::OnTurn);
   Show("Ganger");
   program.Do("cmdDDam", 0);
   EXPECT_EQ(Score(2).Value(), 0);
@@ -87,8 +87,8 @@ TEST_F(WholeFight, ThreeCombatTurnsOfAlleyAmbush) {
   EXPECT_EQ(Next(), "NEW-Phase: 2 Vex On turn");
   EXPECT_EQ(Next(), "NEW-Phase: 3 Vex On turn");
   EXPECT_TRUE(program.prompts.TakeLog().size() == 1U);  // the question for the copies
-  EXPECT_EQ(Next(), "End of turn! Vex Waiting");
-  EXPECT_EQ(Next(), "End of turn Vex Waiting");
+  EXPECT_EQ(Next(), "End of turn! Vex On turn");
+  EXPECT_EQ(Next(), "End of turn Vex On turn");
 
   // Turn 2. The fallen one goes; Sable's wound is light. Vex 1+1+1+9 = 12, the copies roll for
   // themselves, since their original is gone: 3+4 = 7, 2+4 = 6, 5+4-3 = 6, Sable 6+5-1 = 10.
@@ -131,7 +131,7 @@ TEST_F(WholeFight, ThreeCombatTurnsOfAlleyAmbush) {
   // Beyond the count Ganger::3 stays done, though a new pass begins; its stale 10 would be spent.
   EXPECT_EQ(Next(), "NEW-Phase: 2 Vex On turn");
   EXPECT_TRUE(static_cast<bool>(fight.Players[6].TurnDone));
-  EXPECT_EQ(Next(), "End of turn! Vex Waiting");
+  EXPECT_EQ(Next(), "End of turn! Vex On turn");
   EXPECT_EQ(program.prompts.TakeLog(),
             std::vector<std::string>{"message \"Vex:Rocket explodes%0D%0A\""});
 

@@ -1,5 +1,6 @@
 #include "tracker/fight/fight.h"
 
+#include <type_traits>
 #include <utility>
 
 namespace ng {
@@ -8,25 +9,24 @@ const PlayerRecord& Fight::RecordOf(Slot slot) const {
   return Players[slot >= 0 && slot <= kLastSlot ? slot : Slot(0)];
 }
 
-Integer Fight::CountPlayers() {
+Integer Fight::CountPlayers() const {
   int count = 0;
-  for (int slot = 1; slot <= kLastSlot; ++slot) {
+  for (const Slot slot : AllSlots()) {
     if (!Players[slot].Name.empty()) ++count;
   }
-  NumPlayers = count;
-  return NumPlayers;
+  return count;
 }
 
 OrderPosition Fight::FindInOrder(Slot slot) const {
   if (slot == 0) return 0;
-  for (int p = 1; p <= kLastSlot; ++p) {
+  for (const OrderPosition p : PositionsUpTo(kLastSlot)) {
     if (InitOrder[p] == slot) return p;
   }
   return 0;
 }
 
 Slot Fight::FindFreeSlot() const {
-  for (int slot = 1; slot <= kLastSlot; ++slot) {
+  for (const Slot slot : AllSlots()) {
     if (Players[slot].CharacterData == 0) return slot;
   }
   return 0;
@@ -35,18 +35,31 @@ Slot Fight::FindFreeSlot() const {
 void Fight::SwapOrder(OrderPosition p, OrderPosition q) { std::swap(InitOrder[p], InitOrder[q]); }
 
 void Fight::ClearTurnDone() {
-  const Integer n = CountPlayers();
-  for (int slot = 1; slot <= n; ++slot) Players[slot].TurnDone = false;
+  for (const Slot slot : SlotsUpTo(CountPlayers())) Players[slot].TurnDone = false;
 }
 
 void Fight::SetGreenAt(OrderPosition p) {
-  const Integer n = CountPlayers();
-  for (int k = 1; k <= n; ++k) {
+  for (const OrderPosition k : PositionsUpTo(CountPlayers())) {
     if (InitOrder[k] != 0) Players[InitOrder[k]].SetGreen = k == p;
   }
 }
 
 bool Fight::MyTurn() const { return FindInOrder(CurrentPCpointer) == LTurn; }
+
+Integer NumberIn(const Fight& fight, const FightNumber& which) {
+  return std::visit([&fight](auto member) { return Integer((fight.*member).Value()); }, which);
+}
+
+void StoreNumber(Fight& fight, const FightNumber& which, Integer value) {
+  const auto store = [&](auto member) {
+    if constexpr (std::is_same_v<decltype(member), Integer Fight::*>) {
+      fight.*member = value;
+    } else {
+      fight.*member = std::remove_reference_t<decltype(fight.*member)>::From(value);
+    }
+  };
+  std::visit(store, which);
+}
 
 const std::vector<FightField>& FightFields() {
   static const std::vector<FightField> fields = {{"NumPlayers", &Fight::NumPlayers},

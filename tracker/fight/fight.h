@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "base/fixed_table.h"
@@ -11,13 +12,16 @@ namespace ng {
 
 /// One step of the combat turn that "previous" and a repeated "next" play again.
 struct HistoryStep {
-  /// The slot that acted; kEndOfTurn marks the end of the combat turn, 0 no entry.
+  /// The number of the slot that acted; kEndOfTurn marks the end of the combat turn, 0 no entry.
   Integer Turn;
   /// The pass in which it acted; kDelayed marks a delay. The column "2Turn".
   Integer TwoTurn;
 
   static constexpr int kEndOfTurn = 100;
   static constexpr int kDelayed = 99;
+
+  /// The slot that `Turn` names where it is no mark.
+  Slot Actor() const { return Slot::From(Turn); }
 
   friend bool operator==(const HistoryStep&, const HistoryStep&) = default;
 };
@@ -27,16 +31,16 @@ struct Fight {
   static constexpr int kLastSlot = 100;
 
   /// Slot 0 is never a combatant and is never changed.
-  FixedTable<PlayerRecord, kLastSlot> Players;
+  FixedTable<PlayerRecord, kLastSlot, Slot> Players;
   /// The slot at each order position; grid row p shows `InitOrder[p]`.
-  FixedTable<Slot, kLastSlot> InitOrder;
+  FixedTable<Slot, kLastSlot, OrderPosition> InitOrder;
   FixedTable<HistoryStep, kLastSlot> TurnHistory;
 
-  /// Combatants, as CountPlayers last counted them.
+  /// Combatants, as Recount last counted them.
   Integer NumPlayers;
   /// Imported character sheets.
   Integer InfoCnt;
-  /// Saved and restored only.
+  /// Kept in saved fights only.
   Integer InitPhase;
   /// The number of the combat turn.
   Integer RoundCount;
@@ -48,6 +52,7 @@ struct Fight {
   Integer PhaseCnt;
   /// Steps since the reset, 0 to 100; indexes `TurnHistory`.
   Integer SeqNum;
+  /// The last step of the history that a saved fight keeps; the reset sets it to 0.
   Integer TurnNum;
   /// The order position that has the turn.
   OrderPosition LTurn;
@@ -61,8 +66,10 @@ struct Fight {
   /// The record of a slot; record 0, nobody's, for a number outside the table, which a damaged
   /// state file may hold. For what is shown: nothing that a window shows ends a command.
   const PlayerRecord& RecordOf(Slot slot) const;
-  /// Counts the slots whose `Name` is not empty, into `NumPlayers` too.
-  Integer CountPlayers();
+  /// The number of slots whose `Name` is not empty.
+  Integer CountPlayers() const;
+  /// Stores that number as `NumPlayers`; due whenever a combatant has come or gone.
+  void Recount() { NumPlayers = CountPlayers(); }
   /// The first order position that holds `slot`, or 0; slot 0 stands in no position.
   OrderPosition FindInOrder(Slot slot) const;
   /// The first slot without a character sheet, or 0. "Free" goes by the sheet while CountPlayers
@@ -81,10 +88,21 @@ struct Fight {
   friend bool operator==(const Fight&, const Fight&) = default;
 };
 
-/// Every fight-wide counter with its name, for those who go through all of them.
+/// All slots of combatants, or those up to a count, from slot 1 on.
+constexpr IndexRange<Slot> AllSlots() { return {1, Fight::kLastSlot}; }
+constexpr IndexRange<Slot> SlotsUpTo(Integer n) { return {1, Slot::From(n)}; }
+/// The order positions up to a count, from position 1 on.
+constexpr IndexRange<OrderPosition> PositionsUpTo(Integer n) { return {1, OrderPosition::From(n)}; }
+
+/// A fight-wide number, whatever it counts or points to.
+using FightNumber = std::variant<Integer Fight::*, Slot Fight::*, OrderPosition Fight::*>;
+Integer NumberIn(const Fight& fight, const FightNumber& which);
+void StoreNumber(Fight& fight, const FightNumber& which, Integer value);
+
+/// Every fight-wide number with its name, for those who go through all of them.
 struct FightField {
   const char* name;
-  Integer Fight::*member;
+  FightNumber member;
 };
 const std::vector<FightField>& FightFields();
 

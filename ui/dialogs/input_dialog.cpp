@@ -6,9 +6,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "ui/wiring/code_page_input.h"
+
 namespace ng {
 
-InputDialog::InputDialog(const QString& title, const QString& prompt, QWidget* parent)
+InputDialog::InputDialog(const QString& title, const QString& prompt, const Perform& perform,
+                         QWidget* parent)
     : QDialog(parent), answer_(new QLineEdit(this)) {
   setWindowTitle(title);
   setMinimumWidth(380);
@@ -18,6 +21,7 @@ InputDialog::InputDialog(const QString& title, const QString& prompt, QWidget* p
   label->setText(shown.replace(QLatin1String("\r\n"), QLatin1String("\n")));
   answer_->setObjectName(QStringLiteral("txtInput"));
   answer_->setAccessibleName(prompt);
+  KeepToCodePage(*answer_, perform);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
   for (QAbstractButton* button : buttons->buttons()) button->setIcon({});
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);

@@ -2,6 +2,8 @@
 
 #include <QDialog>
 
+#include "ui/wiring/acts.h"
+
 class QLineEdit;
 
 namespace ng {
@@ -11,7 +13,7 @@ class InputDialog : public QDialog {
   Q_OBJECT
 
  public:
-  InputDialog(const QString& title, const QString& prompt, QWidget* parent);
+  InputDialog(const QString& title, const QString& prompt, const Perform& perform, QWidget* parent);
 
   QString Answer() const;
 

@@ -1,7 +1,6 @@
 #include "ui/dialogs/loader_dialog.h"
 
 #include <QComboBox>
-#include <QDir>
 #include <QGridLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -16,7 +15,7 @@
 namespace ng {
 namespace {
 
-/// A label of the form with the mnemonic marked. The blanks in front set it in a little.
+/// A label of the form with its mnemonic. The blanks in front indent it a little.
 QString Caption(const char* label, char mnemonic) {
   QString text = QString::fromLatin1(label);
   return text.insert(text.indexOf(QLatin1Char(mnemonic)), QLatin1Char('&'));
@@ -34,19 +33,17 @@ LoaderDialog::LoaderDialog(const Session& session, const Perform& door, QWidget*
     : FormDialog("frmLoader", QString::fromLatin1(LoaderForm::kCaption), session, door, parent),
       directories_(
           new DirectoryPicker(QStringLiteral("Drive1"), QStringLiteral("DirListBox"), this)),
-      files_(new QListWidget(this)) {
+      files_(new QListWidget(this)),
+      unlisted_(new QLabel(this)) {
   resize(596, 398);
   files_->setObjectName(QStringLiteral("filesXML"));
-  files_->setAccessibleName(tr("Files"));
+  files_->setAccessibleName("Files");
+  unlisted_->setObjectName(QStringLiteral("lblUnlisted"));
+  unlisted_->setProperty("hidesEmpty", true);
   files_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   BuildLayout();
   Connect();
-  // The directory that the tree opens with is the one whose files are listed.
-  if (IsDirectory(session.loader.DirListBox)) {
-    Paint();
-  } else {
-    Do({"frmLoader.DirListBox", 0, PathText(QDir::homePath())});
-  }
+  Paint();
   files_->setFocus();
 }
 
@@ -54,10 +51,10 @@ void LoaderDialog::BuildLayout() {
   QString hint = QString::fromLatin1(LoaderForm::kHint);
   auto* hintLabel = new QLabel(hint.replace(QLatin1String("&&"), QLatin1String("&")), this);
   hintLabel->setProperty("tone", "muted");
-  auto* load = new QPushButton(tr("&Load"), this);
+  auto* load = new QPushButton("&Load", this);
   load->setObjectName(QStringLiteral("cmdLoad"));
   load->setDefault(true);
-  auto* cancel = new QPushButton(tr("Cancel"), this);
+  auto* cancel = new QPushButton("Cancel", this);
   cancel->setObjectName(QStringLiteral("cmdCancel"));
   cancel->setAutoDefault(false);
   auto* buttons = new QHBoxLayout;
@@ -78,7 +75,8 @@ void LoaderDialog::BuildLayout() {
   grid->addWidget(directories_->Tree(), 3, 0);
   grid->addWidget(LabelFor(files_, LoaderForm::kFilesLabel, 'F'), 0, 1);
   grid->addWidget(files_, 1, 1, 3, 1);
-  grid->addLayout(buttons, 4, 0, 1, 2);
+  grid->addWidget(unlisted_, 4, 0, 1, 2);
+  grid->addLayout(buttons, 5, 0, 1, 2);
   grid->setRowStretch(3, 1);
   // Both halves are equally wide, whatever their lists hold.
   for (QWidget* list :
@@ -88,7 +86,7 @@ void LoaderDialog::BuildLayout() {
   }
   grid->setColumnStretch(0, 1);
   grid->setColumnStretch(1, 1);
-  grid->setRowMinimumHeight(4, 40);
+  grid->setRowMinimumHeight(5, 40);
   setTabOrder(directories_->Drives(), directories_->Tree());
   setTabOrder(directories_->Tree(), files_);
   setTabOrder(files_, load);

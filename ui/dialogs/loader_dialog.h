@@ -2,6 +2,7 @@
 
 #include "ui/dialogs/form_dialog.h"
 
+class QLabel;
 class QListWidget;
 
 namespace ng {
@@ -22,6 +23,7 @@ class LoaderDialog : public FormDialog {
 
   DirectoryPicker* directories_;
   QListWidget* files_;
+  QLabel* unlisted_;
 };
 
 }  // namespace ng

@@ -11,6 +11,7 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include "app/session.h"
 #include "ui/look/theme.h"
 #include "ui/widgets/directory_picker.h"
 #include "ui/wiring/path_text.h"
@@ -18,31 +19,33 @@
 namespace ng {
 namespace {
 
-/// What the directories are for, to whom has not seen the program before.
+/// What the directories are for, for somebody who is new to the program.
 QString FirstStartText() {
-  return OptionsDialog::tr(
-      "Welcome. Please say where the character files (*.ng3) lie that you import combatants from, "
-      "and where Forgekit's DATA directory is, with the tables of gear, ranges and skills that the "
-      "import needs.");
+  return "Welcome. Choose the directory that holds your character files (*.ng3), and Forgekit's "
+         "DATA "
+         "directory, which has the tables of gear, ranges and skills that the import needs.";
 }
 
-/// At the first start the dialog comes before the settings are read, all but the character
-/// directory; later on only the character directory is asked for again and again.
-QString TimeText(OptionsDialog::Occasion occasion) {
-  return occasion == OptionsDialog::Occasion::FirstStart
-             ? OptionsDialog::tr(
-                   "The character directory takes effect at the next start; for today, find the "
-                   "files in the Open dialog. All else takes effect now.")
-             : OptionsDialog::tr(
-                   "The character directory takes effect at once. The tables of the DATA directory "
-                   "are read, and the two switches take effect, at the next start.");
+/// When the settings take effect. At the first start the dialog comes before they are read, except
+/// for the character directory. A settings file that was given is read but never written.
+QString TimeText(OptionsDialog::Occasion occasion, bool fileGiven) {
+  const bool first = occasion == OptionsDialog::Occasion::FirstStart;
+  if (fileGiven) {
+    return QString(first ? "" : "The character directory takes effect at once. ") +
+           "The settings are written to the program's own tracker.ini and take effect when the "
+           "program is started without a settings file.";
+  }
+  return first ? "The character directory takes effect at the next start; until then, browse to it "
+                 "in the Open dialog. The other settings take effect now."
+               : "The character directory takes effect at once. The tables of the DATA directory "
+                 "are read, and the two switches take effect, at the next start.";
 }
 
 }  // namespace
 
 OptionsDialog::OptionsDialog(const Session& session, const Perform& door, Occasion occasion,
                              QWidget* parent)
-    : FormDialog("frmOptions", tr("Options"), session, door, parent) {
+    : FormDialog("frmOptions", "Options", session, door, parent) {
   resize(720, 470);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(12, 10, 12, 12);
@@ -55,11 +58,12 @@ OptionsDialog::OptionsDialog(const Session& session, const Perform& door, Occasi
   }
   auto* groups = new QHBoxLayout;
   groups->setSpacing(8);
-  AddGroup(*groups, tr("Character directory"), "NG3");
-  AddGroup(*groups, tr("DATA directory"), "Dat");
+  AddGroup(*groups, "Character directory", "NG3");
+  AddGroup(*groups, "DATA directory", "Dat");
   column->addLayout(groups, 1);
   column->addWidget(BuildSwitches());
-  auto* time = new QLabel(TimeText(occasion), this);
+  auto* time =
+      new QLabel(TimeText(occasion, !session.environment.location.commandLine.empty()), this);
   time->setProperty("tone", "muted");
   time->setWordWrap(true);
   column->addWidget(time);
@@ -79,16 +83,16 @@ void OptionsDialog::AddGroup(QBoxLayout& row, const QString& title, const char* 
   path->setReadOnly(true);
   path->setFocusPolicy(Qt::ClickFocus);
   path->setFont(InterfaceFont(10, true));
-  path->setProperty("emptyText", tr("\u2013 none \u2013"));
+  path->setProperty("emptyText", QString("\u2013 none \u2013"));
   auto* column = new QVBoxLayout(box);
   column->setContentsMargins(10, 12, 10, 10);
   column->setSpacing(6);
   column->addWidget(picker->Drives());
   column->addWidget(picker->Tree(), 1);
-  auto* browse = new QPushButton(tr("Browse..."), box);
+  auto* browse = new QPushButton("Browse...", box);
   browse->setObjectName(QStringLiteral("cmdBrowse") + suffix);
-  browse->setAccessibleName(tr("%1: browse").arg(title));
-  browse->setToolTip(tr("Pick the directory in the system's own chooser"));
+  browse->setAccessibleName(QStringLiteral("%1: browse").arg(title));
+  browse->setToolTip("Pick the directory in the system's own chooser");
   browse->setAutoDefault(false);
   auto* chosen = new QHBoxLayout;
   chosen->setSpacing(6);
@@ -112,7 +116,7 @@ void OptionsDialog::AddGroup(QBoxLayout& row, const QString& title, const char* 
 }
 
 QWidget* OptionsDialog::BuildSwitches() {
-  auto* box = new QGroupBox(tr("Switches"), this);
+  auto* box = new QGroupBox("Switches", this);
   auto* column = new QVBoxLayout(box);
   column->setContentsMargins(10, 10, 10, 8);
   column->setSpacing(4);
@@ -121,16 +125,16 @@ QWidget* OptionsDialog::BuildSwitches() {
     check->setObjectName(QString::fromLatin1(name));
     column->addWidget(check);
   };
-  add("chkCloneInit", tr("Copies take their original's initiative &roll"));
-  add("chkDisableNGDR", tr("Do not &use the dice roller"));
+  add("chkCloneInit", "Copies take their original's initiative &roll");
+  add("chkDisableNGDR", "Do not &use the dice roller");
   return box;
 }
 
 QBoxLayout* OptionsDialog::BuildButtons() {
-  auto* ok = new QPushButton(tr("OK"), this);
+  auto* ok = new QPushButton("OK", this);
   ok->setObjectName(QStringLiteral("cmdOK"));
   ok->setDefault(true);
-  auto* cancel = new QPushButton(tr("Cancel"), this);
+  auto* cancel = new QPushButton("Cancel", this);
   cancel->setObjectName(QStringLiteral("cmdCancel"));
   cancel->setAutoDefault(false);
   auto* row = new QHBoxLayout;

@@ -26,8 +26,8 @@ const QString& Title() {
   return title;
 }
 
-/// "State File (*.ngt)|*.ngt" in the toolkit's form, in which the pattern stands in parentheses at
-/// the end of the description.
+/// "State File (*.ngt)|*.ngt" in the toolkit's form, which has the pattern in parentheses at the
+/// end of the description.
 QString ToolkitFilter(const std::string& filter) {
   const QStringList parts = ToQString(filter).split(QLatin1Char('|'));
   QStringList filters;
@@ -47,13 +47,13 @@ std::optional<std::string> AskForFile(QWidget* parent, const FileDialog& dialog,
   box.setAcceptMode(mode);
   box.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
                                                   : QFileDialog::AnyFile);
+  if (mode == QFileDialog::AcceptSave) box.setLabelText(QFileDialog::LookIn, "Save in:");
   box.setDefaultSuffix(ToQString(dialog.defaultExtension));
   if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return std::nullopt;
   return PathText(box.selectedFiles().constFirst());
 }
 
-/// The box of a piece of work. It stays until the work is done: while it stands nothing else can be
-/// begun, and a command runs to its end before the next.
+/// A progress box that cannot be closed: no other command may begin before the work is done.
 class WorkBox : public QProgressDialog {
  public:
   using QProgressDialog::QProgressDialog;
@@ -69,7 +69,7 @@ QMessageBox::StandardButton Ask(QWidget* parent, const QString& text,
   QMessageBox box(QMessageBox::NoIcon, Title(), text, buttons, parent);
   box.setTextFormat(Qt::PlainText);
   for (QAbstractButton* button : box.buttons()) button->setIcon({});
-  // The box is a grid that takes its width from what stands in it.
+  // The box is a grid that takes its width from its contents.
   if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
     grid->addItem(new QSpacerItem(kBoxWidth, 0), grid->rowCount(), 0, 1, grid->columnCount());
   }
@@ -85,7 +85,7 @@ void QtPrompts::SetMainWindow(QWidget& window, std::function<void()> paint) {
 
 QWidget* QtPrompts::Parent() const {
   if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-  // A question from a window beside the main one goes back there.
+  // The focus goes back to the window that asked, which may be one beside the main one.
   QWidget* active = QApplication::activeWindow();
   return active != nullptr ? active : mainWindow_.data();
 }
@@ -104,7 +104,11 @@ void QtPrompts::Message(std::string_view text) {
 
 std::string QtPrompts::Input(std::string_view prompt) {
   PaintMainWindow();
-  InputDialog dialog(Title(), ToQString(prompt), Parent());
+  const Perform perform = [this](const Act& act) {
+    door_(act);
+    PaintMainWindow();
+  };
+  InputDialog dialog(Title(), ToQString(prompt), perform, Parent());
   return dialog.exec() == QDialog::Accepted ? FromQString(dialog.Answer()) : std::string();
 }
 

@@ -23,8 +23,8 @@ class QtPrompts : public Prompts {
     session_ = &session;
     door_ = std::move(door);
   }
-  /// The window that the dialogs stand before, and what it does to show how far a command has come
-  /// when the command asks something in between.
+  /// The window that the dialogs open in front of, and what it does to show how far a command has
+  /// come when the command asks something in between.
   void SetMainWindow(QWidget& window, std::function<void()> paint);
 
   void Message(std::string_view text) override;

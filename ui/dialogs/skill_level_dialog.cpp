@@ -10,7 +10,7 @@
 namespace ng {
 
 SkillLevelDialog::SkillLevelDialog(const Session& session, const Perform& door, QWidget* parent)
-    : FormDialog("frmSelSkillLevel", tr("Skill Level"), session, door, parent) {
+    : FormDialog("frmSelSkillLevel", "Skill Level", session, door, parent) {
   setMinimumWidth(380);
   auto* skill = new QLabel(this);
   skill->setObjectName(QStringLiteral("lblSkill"));

@@ -18,7 +18,7 @@ Splash::Splash() : QFrame(nullptr, Qt::SplashScreen) {
   icon->setPixmap(ApplicationIcon().pixmap(QSize(48, 48), devicePixelRatio()));
   auto* name = new QLabel(QStringLiteral("NGtracker"), this);
   name->setFont(InterfaceFont(17, true));
-  auto* loading = new QLabel(tr("Reading the tables..."), this);
+  auto* loading = new QLabel("Reading the tables...", this);
   loading->setProperty("tone", "muted");
   auto* words = new QVBoxLayout;
   words->addStretch();

@@ -7,12 +7,13 @@
 #include <QPalette>
 #include <array>
 
+#include "ui/look/row_colour.h"
 #include "ui/look/theme.h"
 
 namespace ng {
 namespace {
 
-/// All drawings stand on a square grid of this many units.
+/// All drawings are made on a square grid of this many units.
 constexpr int kGrid = 24;
 
 /// Lines to be stroked and areas to be filled.
@@ -216,7 +217,7 @@ class ApplicationIconEngine : public PathEngine {
     painter->setBrush(Qt::white);
     painter->drawRoundedRect(QRectF(5, 5, 14, 3.5), 1, 1);
     painter->drawRoundedRect(QRectF(5, 15.5, 14, 3.5), 1, 1);
-    painter->setBrush(QColor(0, 255, 0));
+    painter->setBrush(ToQColor(RowColour::Green));
     painter->drawRoundedRect(QRectF(5, 10.25, 14, 3.5), 1, 1);
     painter->restore();
   }

@@ -30,7 +30,7 @@ void Name(QWidget* widget, const Naming& naming) {
   widget->setToolTip(naming.tip);
 }
 
-/// The column that takes what the others leave is the name, which says more than any figure.
+/// The column that takes what the others leave is the name, which says more than any number.
 constexpr int kNameRoom = 150;
 
 /// A list whose columns follow its width.
@@ -84,7 +84,7 @@ class CaptionLabel : public QLabel {
 
   QSize sizeHint() const override {
     ensurePolished();
-    // The mnemonic's mark takes no room; a last letter that leans out does.
+    // The mnemonic's "&" takes no room; a last letter that leans to the right does.
     const QString shown = text().remove(u'&');
     const QFontMetricsF metrics(font(), this);
     const qreal bearing = shown.isEmpty() ? 0 : metrics.rightBearing(shown.back());

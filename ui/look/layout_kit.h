@@ -58,7 +58,7 @@ QVBoxLayout* MakeColumn();
 /// A hairline between two parts of a group.
 QFrame* MakeLine(Qt::Orientation orientation, QWidget* parent);
 
-/// Muted words on one line that say what stands beside them.
+/// Muted words on one line that say what is beside them.
 QLabel* MakeCaption(const QString& text, QWidget* parent);
 /// A bold text that the program fills in; it holds its place when empty.
 QLabel* MakeValue(const QString& name, QWidget* parent);
@@ -97,12 +97,12 @@ class FittedPage : public QWidget {
 
   /// What the page needs with the smaller text.
   QSize minimumSizeHint() const override;
-  /// The same: what is more comes from the window.
+  /// The same: any further room comes from the window.
   QSize sizeHint() const override;
 
  protected:
   /// Measures the page in both sizes; to be called when it holds everything. A page that is not
-  /// open at the start and needs no more room than the others leaves it to its first showing.
+  /// open at the start and needs no more room than the others is measured when it is first shown.
   void MeasureText();
   void resizeEvent(QResizeEvent* event) override;
 

@@ -14,6 +14,16 @@ namespace {
 /// White stays readable on it.
 QColor Darker(const QColor& accent) { return accent.darker(120); }
 
+/// How much of the accent a checked button of the toolbar has, in per cent.
+constexpr int kCheckedTint = 25;
+constexpr qreal kCheckedEdge = 2;
+
+QColor Tinted(const QColor& ground, const QColor& accent) {
+  const auto mixed = [](int from, int to) { return from + (to - from) * kCheckedTint / 100; };
+  return {mixed(ground.red(), accent.red()), mixed(ground.green(), accent.green()),
+          mixed(ground.blue(), accent.blue())};
+}
+
 constexpr qreal kCaptionRadius = 3;
 constexpr qreal kRollRadius = 4;
 constexpr qreal kToolRadius = 2;
@@ -122,7 +132,9 @@ bool PaintToolButton(QPainter& painter, const QStyleOptionToolButton& option,
                {held ? Darker(theme.accent) : theme.accent, theme.accent, kToolRadius});
     label.palette.setColor(QPalette::ButtonText, Qt::white);
   } else {
-    PaintPanel(painter, option.rect, {theme.base, theme.fieldEdge, kToolRadius});
+    // Unlike a button below the mouse, whose edge is grey.
+    PaintPanel(painter, option.rect,
+               {Tinted(theme.window, theme.accent), theme.accent, kToolRadius, kCheckedEdge});
   }
   label.rect.adjust(1, 1, -1, -1);
   button.style()->drawControl(QStyle::CE_ToolButtonLabel, &label, &painter, &button);

@@ -15,7 +15,7 @@ constexpr qreal kBadgeRadius = 4;
 constexpr qreal kFieldRadius = 3;
 constexpr qreal kScrollingRadius = 2;
 
-/// How far the upper edge of a group's frame lies below its title's.
+/// How far the upper edge of a group's frame is below its title's.
 constexpr int kGroupTop = 8;
 constexpr int kTitleLeft = 8;
 constexpr int kTitlePadding = 8;
@@ -76,7 +76,7 @@ bool PaintFrame(QPainter& painter, const QStyleOptionFrame& option, const QWidge
   if (qobject_cast<const QAbstractScrollArea*>(&widget) == nullptr) {
     return PaintNamedPanel(painter, option, widget.objectName());
   }
-  // The grid, which has the focus nearly always, marks its current cell instead.
+  // The grid, which nearly always has the focus, shows it at its current cell instead.
   const bool grid = qobject_cast<const QTableView*>(&widget) != nullptr;
   const QColor edge = grid ? Theme::Current().fieldEdge : EdgeOf(option);
   PaintEdge(painter, option.rect, edge);

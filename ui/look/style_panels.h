@@ -18,7 +18,7 @@ struct Panel {
   qreal edgeWidth = 1;
 };
 
-/// Fills the area; its edge lies within.
+/// Fills the area; its edge is inside.
 void PaintPanel(QPainter& painter, const QRect& area, const Panel& panel);
 
 /// Paints the hairlines, the edge of everything that scrolls, and the panels that have a name.
@@ -29,7 +29,7 @@ bool PaintFrame(QPainter& painter, const QStyleOptionFrame& option, const QWidge
 /// property "nonZero".
 void PaintLineEdit(QPainter& painter, const QStyleOptionFrame& option, const QWidget* edit);
 
-/// The parts of a group, whose title stands on the upper edge of the frame.
+/// The parts of a group, whose title is on the upper edge of the frame.
 struct GroupParts {
   QRect frame;
   QRect contents;

@@ -6,8 +6,10 @@
 #include <QPainter>
 #include <QStatusBar>
 #include <QStyleOption>
+#include <QToolButton>
 #include <optional>
 
+#include "ui/look/row_colour.h"
 #include "ui/look/style_buttons.h"
 #include "ui/look/style_panels.h"
 #include "ui/look/theme.h"
@@ -15,52 +17,47 @@
 namespace ng {
 namespace {
 
-/// What a line of a list is higher than its text.
+/// By how much a line of a list is higher than its text.
 constexpr int kLineAir = 2;
 
 constexpr int kEdge = 1;
-/// Between the edge of a line edit and its text, beside what the line edit keeps itself.
+/// Between the edge of a line edit and its text, in addition to what the line edit keeps itself.
 constexpr int kFieldPadding = 3;
 
 /// Whether the widget's text has a tone, and then the role of the palette that has its colour.
 std::optional<QPalette::ColorRole> ToneOf(const QWidget& widget) {
-  if (qobject_cast<const QStatusBar*>(widget.parentWidget()) != nullptr) return kMutedText;
   const QVariant tone = widget.property("tone");
   if (tone == QLatin1String("muted")) return kMutedText;
   if (tone == QLatin1String("accent")) return kAccentText;
   if (tone == QLatin1String("alarm")) return kAlarmText;
+  if (qobject_cast<const QStatusBar*>(widget.parentWidget()) != nullptr) return kMutedText;
   return std::nullopt;
 }
 
-/// The colour of the grid's rows that says the same; an invalid one where no row has a colour.
-QColor RowColour(const QString& text) {
-  if (text == QLatin1String("On turn")) return {0, 255, 0};
-  if (text == QLatin1String("Delayed")) return {255, 255, 0};
-  if (text == QLatin1String("Inactive")) return {255, 0, 0};
-  return {};
-}
-
-void ColourBadge(QLabel& badge) {
-  const QColor row = RowColour(badge.text());
+/// A badge wears the colour of the rows that say the same, and the window's where none does.
+void ColourBadge(QLabel& badge, TurnState state) {
+  const RowColour colour = LookOf(state).colour;
+  const bool plain = colour == RowColour::White;
   QPalette colours;
-  colours.setColor(QPalette::Base, row.isValid() ? row : Theme::Current().group);
-  // Black stands on the colours of the rows, in either theme.
-  if (row.isValid()) colours.setColor(QPalette::WindowText, Qt::black);
+  colours.setColor(QPalette::Base, plain ? Theme::Current().group : ToQColor(colour));
+  // On the colours of the rows the text is black, in either theme.
+  if (!plain) colours.setColor(QPalette::WindowText, Qt::black);
   badge.setPalette(colours);
 }
 
 void ColourLabel(QLabel& label) {
-  if (label.objectName() == QLatin1String("lblTurn")) return ColourBadge(label);
+  const QVariant state = label.property("turnState");
+  if (state.isValid()) return ColourBadge(label, static_cast<TurnState>(state.toInt()));
   if (const auto role = ToneOf(label)) label.setForegroundRole(*role);
 }
 
-void ColourLineEdit(QLineEdit& edit) {
-  const auto role = ToneOf(edit);
+/// For a widget that writes in the colour of `text`, whatever its own role.
+void ColourText(QWidget& widget, QPalette::ColorRole text) {
+  const auto role = ToneOf(widget);
   if (!role) return;
-  // A line edit writes in the colour of its text, whatever its role.
   QPalette colours;
-  colours.setColor(QPalette::Text, QGuiApplication::palette().color(*role));
-  edit.setPalette(colours);
+  colours.setColor(text, QGuiApplication::palette().color(*role));
+  widget.setPalette(colours);
 }
 
 }  // namespace
@@ -71,8 +68,10 @@ void TrackerStyle::polish(QWidget* widget) {
   QProxyStyle::polish(widget);
   if (auto* label = qobject_cast<QLabel*>(widget)) {
     ColourLabel(*label);
-  } else if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
-    ColourLineEdit(*edit);
+  } else if (qobject_cast<QLineEdit*>(widget) != nullptr) {
+    ColourText(*widget, QPalette::Text);
+  } else if (qobject_cast<QToolButton*>(widget) != nullptr) {
+    ColourText(*widget, QPalette::ButtonText);
   }
 }
 

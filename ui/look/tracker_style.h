@@ -7,9 +7,11 @@ namespace ng {
 /// How every widget looks: what is not painted here is Fusion's. The colours are those of the theme
 /// in force. A widget is known by its class, by its object name, or by a dynamic property that says
 /// what it is for:
-///   - "tone", of a label or line edit: its text is "muted", or stands out ("accent", "alarm");
+///   - "tone", of a label, line edit or tool button: its text is "muted", or stands out ("accent",
+///   "alarm");
 ///   - "nonZero", of a line edit: whether it holds a modifier that counts;
-///   - "shape", of a push button: "caption" for one that stands before a box.
+///   - "turnState", of a badge: the TurnState whose row colour it has;
+///   - "shape", of a push button: "caption" for one before a box.
 class TrackerStyle : public QProxyStyle {
   Q_OBJECT
 

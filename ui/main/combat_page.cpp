@@ -2,12 +2,12 @@
 
 #include <QBoxLayout>
 #include <QGroupBox>
-#include <QPlainTextEdit>
 
 #include "ui/main/damage_group.h"
 #include "ui/main/pools_group.h"
 #include "ui/main/skills_group.h"
 #include "ui/main/weapons_group.h"
+#include "ui/widgets/note_edit.h"
 
 namespace ng {
 namespace {
@@ -18,7 +18,7 @@ constexpr int kNoteFromHeight = 900;
 
 QGroupBox* MakeNoteGroup(QWidget* parent) {
   QGroupBox* group = MakeGroup("Notes", parent);
-  auto* text = new QPlainTextEdit(group);
+  auto* text = new NoteEdit(group);
   text->setObjectName("txtNotes2");
   text->setAccessibleName("Note on the combatant");
   text->setToolTip("The note on the combatant; the Notes page shows the same");

@@ -17,13 +17,16 @@ namespace ng {
 namespace {
 
 constexpr int kMaxHeight = 168;
-constexpr int kTrackNameWidth = 58;
-constexpr int kCountWidth = 40;
+/// "Physical" in the larger text.
+constexpr int kTrackNameWidth = 55;
+constexpr int kCountWidth = 34;
+constexpr int kWordsGap = 4;
 constexpr int kCountPoints = 17;
 constexpr int kTallButton = 42;
-constexpr int kTallButtonWidth = 33;
+/// Every pixel more is missing from the names of the wounds in the least window.
+constexpr int kTallButtonWidth = kSmallButtonWidth;
 /// Room between the wounds and the single steps.
-constexpr int kPartGap = 8;
+constexpr int kPartGap = 4;
 
 struct TrackNames {
   const char* title;
@@ -66,7 +69,7 @@ QVBoxLayout* MakeBar(Track track, QWidget* parent) {
   bar->setObjectName(ElementName("arPBDamage", static_cast<int>(index)));
   bar->setToolTip(QStringLiteral("%1 damage: filled boxes of ten").arg(names.title));
 
-  QHBoxLayout* words = MakeRow(6);
+  QHBoxLayout* words = MakeRow(kWordsGap);
   words->addWidget(title);
   words->addWidget(level, 1);
   auto* rows = new QVBoxLayout;
@@ -110,9 +113,9 @@ QHBoxLayout* MakeFigures(QWidget* parent) {
   QLabel* overflow = MakeValue("lblOverDamage", parent);
   overflow->setFixedWidth(48);
   overflow->setToolTip("Physical boxes beyond the tenth");
-  QLineEdit* pain = MakeBox({"txtPainResistance", "Pain resistance",
-                             "Boxes of damage that the wound modifier leaves out"},
-                            40, parent);
+  QLineEdit* pain = MakeBox(
+      {"txtPainResistance", "Pain resistance", "Damage boxes ignored by the wound modifier"}, 40,
+      parent);
   QLabel* painCaption = MakeCaption("Pain &resistance", parent);
   painCaption->setBuddy(pain);
 

@@ -11,8 +11,7 @@
 namespace ng {
 namespace {
 
-/// The total weight. It keeps the room for any, so that the lists beside it stay as wide as they
-/// are.
+/// The total weight. It has room for any, so that the width of the lists beside it does not change.
 QLabel* MakeWeight(const QString& name, QWidget* parent) {
   QLabel* weight = MakeValue(name, parent);
   weight->ensurePolished();
@@ -43,11 +42,11 @@ QPushButton* MakeWideButton(const Naming& naming, const QString& text, ButtonWid
   return button;
 }
 
-/// The button that tells all about the marked line of a list.
+/// The button that shows all about the selected line of a list.
 QPushButton* MakeInfoButton(const QString& name, const QString& what, const QString& text,
                             QWidget* parent) {
-  return MakeWideButton({name, "Info on the marked " + what,
-                         TipWithKey("Show every figure of the marked " + what, "Enter")},
+  return MakeWideButton({name, "Info on the selected " + what,
+                         TipWithKey("Show all details of the selected " + what, "Enter")},
                         text, kInfoButton, parent);
 }
 
@@ -66,14 +65,14 @@ QHBoxLayout* MakeHandRow(QWidget* parent) {
   name->setMaximumWidth(kNameWidth);
   QHBoxLayout* row = MakeRow(6);
   row->addWidget(name, 8);
-  row->addWidget(MakeCaption("takes the marked weapon as", parent));
+  row->addWidget(MakeCaption("Ready selected weapon as:", parent));
   row->addSpacing(4);
-  row->addWidget(MakeWideButton({"cmdSetPrim", "Take the marked weapon as primary weapon",
-                                 "Put the marked weapon into the primary slot"},
+  row->addWidget(MakeWideButton({"cmdSetPrim", "Ready the selected weapon as primary",
+                                 "Ready the selected weapon as the primary one"},
                                 "&Primary", kHandButton, parent),
                  8);
-  row->addWidget(MakeWideButton({"cmdSetSecond", "Take the marked weapon as secondary weapon",
-                                 "Put the marked weapon into the secondary slot"},
+  row->addWidget(MakeWideButton({"cmdSetSecond", "Ready the selected weapon as secondary",
+                                 "Ready the selected weapon as the secondary one"},
                                 "&Secondary", kHandButton, parent),
                  8);
   row->addStretch(1);
@@ -86,10 +85,10 @@ QGroupBox* MakeWeapons(QWidget* parent) {
   QVBoxLayout* rows = MakeWeighedRows("grpWeapon", group);
   rows->addWidget(
       MakeList(
-          {"lstWeapon", "Weapons", "Check mark: carried. The marked line goes into a hand"},
+          {"lstWeapon", "Weapons", "Check mark: carried. The selected weapon can be readied below"},
           {ListColumn{"Carried weapon"}, ListColumn{"Damage", 100, Qt::AlignLeft, 62},
            ListColumn{"Conceal", 62, Qt::AlignLeft, 52},
-           ListColumn{"Figures", 128, Qt::AlignLeft, 60}, ListColumn{"Ammo", 54, Qt::AlignLeft, 46},
+           ListColumn{"Details", 128, Qt::AlignLeft, 60}, ListColumn{"Ammo", 54, Qt::AlignLeft, 46},
            ListColumn{"Weight", kWeightColumn, Qt::AlignRight, 50}},
           group),
       1);
@@ -106,8 +105,8 @@ QHBoxLayout* MakeArmourFigures(QWidget* parent) {
   static constexpr Figure kFigures[] = {
       {"lblBAL2", 50, "BAL: ballistic armour"},
       {"lblIMP2", 50, "IMP: impact armour"},
-      {"lblQCKmod2", 58, "QCK: what the armour takes from quickness"},
-      {"lblCPmod2", 100, "CPmod: what the armour takes from the combat pool"}};
+      {"lblQCKmod2", 58, "QCK: quickness lost to heavy armour"},
+      {"lblCPmod2", 100, "CPmod: combat pool lost to heavy armour"}};
   QHBoxLayout* row = MakeRow(6);
   for (const auto& [name, width, tip] : kFigures) {
     ElidedLabel* figure = MakeElided(name, parent);

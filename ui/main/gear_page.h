@@ -5,7 +5,7 @@
 namespace ng {
 
 /// What the displayed combatant carries and wears. A check mark means carried or worn; the
-/// highlighted weapon is the one that goes into a hand.
+/// highlighted weapon is the one that can be readied.
 class GearPage : public FittedPage {
   Q_OBJECT
 

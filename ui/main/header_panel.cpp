@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <utility>
 
 #include "ui/look/layout_kit.h"
 #include "ui/look/theme.h"
@@ -49,7 +50,7 @@ QBoxLayout* HeaderPanelView::BuildIdentity() {
   badge->setFont(InterfaceFont(10, true));
   badge->setAlignment(Qt::AlignCenter);
   badge->setFixedSize(kBadgeWidth, 22);
-  badge->setToolTip(tr("Where the combatant stands in the turn"));
+  badge->setToolTip("The combatant's state in this turn");
   auto* race = new ElidedLabel(this);
   race->setObjectName(QStringLiteral("lblRace2"));
   race->setProperty("tone", "muted");
@@ -66,31 +67,34 @@ QBoxLayout* HeaderPanelView::BuildIdentity() {
 
 QBoxLayout* HeaderPanelView::BuildInitiative() {
   QHBoxLayout* row = MakeRow(5);
-  row->addWidget(MakeCaption(tr("Init"), this));
-  AddBox(*row, "txtRRSLT", 44, tr("Rolled initiative"));
-  row->addWidget(MakeCaption(tr("Net"), this));
+  row->addWidget(MakeCaption("Init", this));
+  AddBox(*row, "txtRRSLT", 44, "Rolled initiative");
+  row->addWidget(MakeCaption("Net", this));
   auto* net = new QLabel(this);
   net->setObjectName(QStringLiteral("lblFRSLT"));
   net->setFont(InterfaceFont(10, true));
-  net->setToolTip(tr("Initiative less the wound modifier"));
+  net->setToolTip("Initiative less the wound modifier");
   HoldWidth(*net, QStringLiteral("-00"));
   row->addWidget(net);
   row->addSpacing(4);
-  row->addWidget(MakeCaption(tr("Dice"), this));
-  AddBox(*row, "txtInit_0", 34, tr("Initiative dice, natural"));
-  AddBox(*row, "txtInit_1", 34, tr("Initiative dice, augmented"));
+  row->addWidget(MakeCaption("Dice", this));
+  AddBox(*row, "txtInit_0", 34, "Initiative dice, natural");
+  AddBox(*row, "txtInit_1", 34, "Initiative dice, augmented");
   row->addSpacing(4);
-  row->addWidget(MakeCaption(tr("React."), this));
-  AddBox(*row, "txtReac_0", 34, tr("Reaction, natural"));
-  AddBox(*row, "txtReac_1", 34, tr("Reaction, augmented"));
+  row->addWidget(MakeCaption("React.", this));
+  AddBox(*row, "txtReac_0", 34, "Reaction, natural");
+  AddBox(*row, "txtReac_1", 34, "Reaction, augmented");
   row->addSpacing(5);
 
   // The only radio buttons of this panel, so that they exclude one another.
+  const std::pair<const char*, const char*> modes[] = {
+      {"Ph&ysical", "Physical = Augmented Initiative (D6) + Augmented Reaction"},
+      {"&Astral", "Astral = Natural Initiative (D6) + Natural Reaction + 20"}};
   int index = 0;
-  for (const QString& text : {tr("Ph&ysical"), tr("&Astral")}) {
+  for (const auto& [text, tip] : modes) {
     auto* mode = new QRadioButton(text, this);
-    mode->setObjectName(QStringLiteral("optInitMode_%1").arg(index++));
-    mode->setToolTip(tr("Initiative mode, from the next reroll on"));
+    mode->setObjectName(ElementName("optInitMode", index++));
+    mode->setToolTip(QStringLiteral("%1\nTakes effect at the next reroll").arg(tip));
     row->addWidget(mode);
   }
   return row;
@@ -102,11 +106,11 @@ QBoxLayout* HeaderPanelView::BuildArmour() {
     int width;
     QString tip;
   };
-  const Slot slots_[] = {{"lblBAL", 66, tr("BAL: ballistic armour")},
-                         {"lblIMP", 62, tr("IMP: impact armour")},
-                         {"lblQCKmod", 76, tr("QCK: quickness lost to heavy armour")},
-                         {"lblCPmod", 92, tr("CPmod: combat pool lost to heavy armour")},
-                         {"lblLWght", 96, tr("Wgt: weight worn and carried")}};
+  const Slot slots_[] = {{"lblBAL", 66, "BAL: ballistic armour"},
+                         {"lblIMP", 62, "IMP: impact armour"},
+                         {"lblQCKmod", 76, "QCK: quickness lost to heavy armour"},
+                         {"lblCPmod", 92, "CPmod: combat pool lost to heavy armour"},
+                         {"lblLWght", 96, "Wgt: weight worn and carried"}};
   QHBoxLayout* row = MakeRow(5);
   for (const Slot& slot : slots_) {
     auto* label = new QLabel(this);

@@ -12,6 +12,7 @@
 #include <QStyle>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QToolButton>
 #include <QTreeWidget>
 #include <algorithm>
 #include <utility>
@@ -117,10 +118,10 @@ void MainWindow::BuildRightPane(QWidget* parent) {
   tabs->setDocumentMode(true);
   tabs->tabBar()->setDrawBase(false);
   auto* pages = tabs->findChild<QStackedWidget*>();
-  tabs->addTab(new CombatPage(pages), tr("&1 Combat"));
-  tabs->addTab(new GearPage(pages), tr("&2 Gear"));
-  tabs->addTab(new PersonPage(pages), tr("&3 Person"));
-  tabs->addTab(new NotesPage(pages), tr("&4 Notes"));
+  tabs->addTab(new CombatPage(pages), "&1 Combat");
+  tabs->addTab(new GearPage(pages), "&2 Gear");
+  tabs->addTab(new PersonPage(pages), "&3 Person");
+  tabs->addTab(new NotesPage(pages), "&4 Notes");
   auto* column = new QVBoxLayout(pane);
   column->setContentsMargins(0, kMargin, kMargin, kGap);
   column->setSpacing(4);
@@ -135,6 +136,8 @@ void MainWindow::BuildStatusBar() {
   message->setObjectName(QStringLiteral("lblStatus"));
   message->setContentsMargins(3, 0, 0, 0);
   statusBar()->addWidget(message, 1);
+  AddNotice("lblLogFailure", "Click to dismiss; the list in the Game Master window is complete");
+  AddNotice("lblJournal", "Click to dismiss");
   for (const char* name : {"lblCombatants", "lblCombatTurn", "lblPass", "lblRoller"}) {
     auto* label = new QLabel(this);
     label->setObjectName(QString::fromLatin1(name));
@@ -143,11 +146,23 @@ void MainWindow::BuildStatusBar() {
   }
 }
 
+void MainWindow::AddNotice(const char* name, const char* tip) {
+  auto* notice = new QToolButton(this);
+  notice->setObjectName(QString::fromLatin1(name));
+  notice->setToolTip(QString::fromLatin1(tip));
+  notice->setAutoRaise(true);
+  notice->setProperty("tone", "alarm");
+  notice->setProperty("hidesEmpty", true);
+  // As high as the words beside it, so that nothing moves when it comes and goes.
+  notice->setMaximumHeight(notice->fontMetrics().height());
+  statusBar()->addPermanentWidget(notice);
+}
+
 void MainWindow::Place() {
   const WindowLayout& layout = session_.main.layout;
   const QScreen* screen = QGuiApplication::screenAt(KeptCentre(layout));
   if (screen == nullptr) screen = QGuiApplication::primaryScreen();
-  // The frame is not there yet; its title bar must have room above the window.
+  // The frame does not exist yet; its title bar must have room above the window.
   const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight);
   const QRect place =
       OpeningPlace(layout, screen->availableGeometry().adjusted(0, 0, 0, -titleBar));
@@ -235,7 +250,7 @@ void MainWindow::KeepPlace(const QRect& place) {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   if (!session_.main.closing) {
-    // Not by Do(): a window that is being closed goes without a word when it is closed once more.
+    // Not by Do(), which would close the window once more and so skip the question.
     door_({"mnuFileExit"});
     PaintAll();
   }

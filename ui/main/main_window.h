@@ -35,6 +35,8 @@ class MainWindow : public QMainWindow {
   void BuildLeftPane(QWidget* parent);
   void BuildRightPane(QWidget* parent);
   void BuildStatusBar();
+  /// A warning in the status bar that is there while it has words, and dismissed by a click.
+  void AddNotice(const char* name, const char* tip);
   void Place();
   /// Keeps the place for the next start.
   void KeepPlace(const QRect& place);

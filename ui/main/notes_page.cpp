@@ -4,11 +4,11 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTreeWidget>
 
 #include "ui/widgets/elided_label.h"
+#include "ui/widgets/note_edit.h"
 
 namespace ng {
 namespace {
@@ -49,7 +49,7 @@ QGroupBox* MakeNote(QWidget* parent) {
   QHBoxLayout* title = MakeRow(8);
   title->addWidget(MakeCaption("Note on", group));
   title->addWidget(name, 1);
-  auto* text = new QPlainTextEdit(group);
+  auto* text = new NoteEdit(group);
   text->setObjectName("txtNotes");
   text->setAccessibleName("Note on the combatant");
   text->setToolTip("Free text on the combatant, kept in a file of its own");

@@ -24,10 +24,12 @@ constexpr std::array<const char*, kAttributeCount> kAttributeTips = {
 constexpr std::array<const char*, 7> kPools = {"Combat", "Control", "Hacking", "Spell",
                                                "Task",   "Astral",  "Karma"};
 
-/// The tip of a list, and how its lines are looked into.
-QString WithInfo(const QString& tip) { return TipWithKey(tip, "Enter: all about the marked line"); }
+/// The tip of a list, and how to see the details of its lines.
+QString WithInfo(const QString& tip) {
+  return TipWithKey(tip, "Enter: all details of the selected line");
+}
 
-/// A caption and the value named `name` beside it, at a place of the grid.
+/// A caption and the value named `name` beside it, at a cell of the grid.
 void AddFigure(QGridLayout* grid, int row, int column, const QString& caption, const QString& tip,
                const QString& name) {
   QWidget* parent = grid->parentWidget();
@@ -88,14 +90,12 @@ QGroupBox* MakeRace(QWidget* parent) {
   auto* run = new QLabel(group);
   run->setObjectName("lblRunMult");
   run->setProperty("tone", "muted");
-  run->setToolTip("How many times quickness the combatant covers when running");
+  run->setToolTip("Running speed as a multiple of quickness");
   QHBoxLayout* title = MakeRow(6);
   title->addWidget(race, 1);
   title->addWidget(run);
   rows->addLayout(title);
-  rows->addWidget(
-      MakePlainList({"lstRace", "What the race brings", WithInfo("What the race brings")}, group),
-      1);
+  rows->addWidget(MakePlainList({"lstRace", "Racial traits", WithInfo("Racial traits")}, group), 1);
   ElidedLabel* attacks = MakeElided("lblAttacks", group);
   attacks->setToolTip("Natural attacks");
   rows->addWidget(attacks);

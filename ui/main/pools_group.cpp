@@ -41,7 +41,7 @@ constexpr std::array<Pool, 5> kPools = {{
     {"SD", "Set aside", "Set aside", "txtSD", "cmdSDnegative", "cmdSDplus",
      "Give a die back to the spell pool", "Set a die of the spell pool aside", "Down in the box",
      "Up in the box"},
-    // The names of this pair differ from one another, and both are kept.
+    // The names of this pair differ; both are names of commands.
     {"AS", "Astral", "Astral pool", "txtAS", "cmdASnegative", "cmdADplus",
      "Take a die from the astral pool", "Add a die to the astral pool", "Down in the box",
      "Up in the box"},

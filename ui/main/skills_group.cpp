@@ -27,20 +27,21 @@ QPushButton* MakeWideButton(const Naming& naming, const QString& text, int heigh
 
 QHBoxLayout* MakeUses(QWidget* parent) {
   QHBoxLayout* row = MakeRow();
-  row->addWidget(MakeWideButton({"cmdSkillPrimary", "Use the marked skill for the primary weapon",
-                                 "Fire the primary weapon with the marked skill"},
+  row->addWidget(MakeWideButton({"cmdSkillPrimary", "Use the selected skill for the primary weapon",
+                                 "Fire the primary weapon with the selected skill"},
                                 "&Primary", kButtonHeight, parent),
                  1);
   QPushButton* secondary =
-      MakeWideButton({"cmdSkillSecondary", "Use the marked skill for the secondary weapon",
-                      "Fire the secondary weapon with the marked skill"},
+      MakeWideButton({"cmdSkillSecondary", "Use the selected skill for the secondary weapon",
+                      "Fire the secondary weapon with the selected skill"},
                      "&Secondary", kButtonHeight, parent);
   secondary->setMinimumWidth(kLeastUseWidth);
   row->addWidget(secondary, 1);
-  row->addWidget(MakeWideButton({"cmdMeleeSkill", "Use the marked skill for unarmed combat",
-                                 "Fight unarmed with the marked skill, if it is one to fight with"},
-                                "&Melee", kButtonHeight, parent),
-                 1);
+  row->addWidget(
+      MakeWideButton({"cmdMeleeSkill", "Use the selected skill for unarmed combat",
+                      "Fight unarmed with the selected skill, if it is one to fight with"},
+                     "&Melee", kButtonHeight, parent),
+      1);
   return row;
 }
 
@@ -64,11 +65,11 @@ QHBoxLayout* MakeTests(QWidget* parent) {
 QGroupBox* MakeSkillsGroup(QWidget* parent) {
   QGroupBox* group = MakeGroup("S&kills and tests", parent);
   QVBoxLayout* rows = MakeGroupRows(group);
-  rows->addWidget(
-      MakeList({"lstActive", "Active skills", "Mark a skill, then say what it is used for"},
-               {ListColumn{}, ListColumn{"", kRatingWidth, Qt::AlignRight}}, group),
-      1);
-  rows->addWidget(MakeCaption("Use the marked skill for", group));
+  rows->addWidget(MakeList({"lstActive", "Active skills",
+                            "Select a skill, then choose below what to use it for"},
+                           {ListColumn{}, ListColumn{"", kRatingWidth, Qt::AlignRight}}, group),
+                  1);
+  rows->addWidget(MakeCaption("Use the selected skill for", group));
   rows->addLayout(MakeUses(group));
   ElidedLabel* chosen = MakeElided("lblSkill", group);
   chosen->setToolTip("The skill chosen last");

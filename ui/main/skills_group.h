@@ -5,7 +5,7 @@ class QWidget;
 
 namespace ng {
 
-/// The active skills, what the marked one is to be used for, and the tests without a weapon.
+/// The active skills, what the selected one is to be used for, and the tests without a weapon.
 QGroupBox* MakeSkillsGroup(QWidget* parent);
 
 }  // namespace ng

@@ -54,16 +54,16 @@ struct Words {
 };
 
 constexpr std::array<Words, kFigureColumns> kRanges = {
-    {{"Short", "Short", "Short range, up to the figure below"},
-     {"Medium", "Med.", "Medium range, up to the figure below"},
-     {"Long", "Long", "Long range, up to the figure below"},
-     {"Extreme", "Extr.", "Extreme range, up to the figure below"}}};
+    {{"Short", "Short", "Short range, up to the number below"},
+     {"Medium", "Med.", "Medium range, up to the number below"},
+     {"Long", "Long", "Long range, up to the number below"},
+     {"Extreme", "Extr.", "Extreme range, up to the number below"}}};
 
 constexpr std::array<Words, kFigureColumns> kRecoil = {
     {{"txtTBTT", "TBTT", "Rounds fired this turn"},
      {"txtRC", "RC", "Recoil compensation"},
      {"txtGyro", "Gyro", "Gyro compensation"},
-     {"txtURC", "URC", "Uncompensated recoil, worked out from the boxes beside it"}}};
+     {"txtURC", "URC", "Uncompensated recoil, calculated from the boxes beside it"}}};
 
 constexpr std::array<Words, 3> kSights = {{{"chkSmL", "Smartlink", "Smartlink in use"},
                                            {"chkLaserSight", "Laser", "Laser sight in use"},

@@ -11,7 +11,7 @@ namespace ng {
 constexpr QSize kLeastWindow(1024, 700);
 
 /// Where the main window opens: as it was kept, held within `available`, the usable part of its
-/// screen. A kept size below the least, as before the first start, stands for the usual size.
+/// screen. A kept size below the least, as before the first start, means the usual size.
 QRect OpeningPlace(const WindowLayout& layout, const QRect& available);
 
 /// The point on the screen that tells which screen the window was on.

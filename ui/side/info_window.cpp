@@ -15,15 +15,15 @@ constexpr int kNameColumn = 140;
 }  // namespace
 
 InfoWindow::InfoWindow(const Perform& perform, QWidget* parent)
-    : SideWindow("frmInfo", tr("Item Information"), perform, parent) {
+    : SideWindow("frmInfo", "Item Information", perform, parent) {
   resize(420, 470);
   auto* item = MakeValue(QStringLiteral("lblItem"), this);
   item->setWordWrap(true);
-  auto* figures = MakeList({QStringLiteral("lstFigures"), tr("Figures of the item"),
-                            tr("Every figure that the character file gives")},
-                           {ListColumn{tr("Figure"), kNameColumn}, ListColumn{tr("Value")}}, this);
+  auto* figures = MakeList(
+      {QStringLiteral("lstFigures"), "Details of the item", "All details in the character file"},
+      {ListColumn{"Detail", kNameColumn}, ListColumn{"Value"}}, this);
   auto* reference = MakeEntryText(QStringLiteral("txtReference"), this);
-  reference->setPlaceholderText(tr("The reference file says nothing about it."));
+  reference->setPlaceholderText("No reference entry.");
   auto* column = new QVBoxLayout(this);
   SetEdges(*column);
   column->addWidget(item);

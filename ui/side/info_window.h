@@ -4,7 +4,7 @@
 
 namespace ng {
 
-/// Every figure of the line marked last on the pages, over what the reference file says of it.
+/// All details of the line selected last on the pages, above its entry in the reference file.
 class InfoWindow : public SideWindow {
   Q_OBJECT
 

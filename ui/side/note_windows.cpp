@@ -24,29 +24,29 @@ QTreeWidget* MakeGrowingList(const Naming& naming, QWidget* parent) {
 QPlainTextEdit* MakeEntryText(const QString& name, QWidget* parent) {
   auto* text = new QPlainTextEdit(parent);
   text->setObjectName(name);
-  text->setAccessibleName(QObject::tr("Text of the entry"));
-  text->setToolTip(QObject::tr("What the reference file says"));
+  text->setAccessibleName("Text of the entry");
+  text->setToolTip("What the reference file says");
   text->setReadOnly(true);
   text->setTabChangesFocus(true);
   return text;
 }
 
 GmWindow::GmWindow(const Perform& perform, QWidget* parent)
-    : SideWindow("frmGM", tr("Game Master"), perform, parent) {
+    : SideWindow("frmGM", "Game Master", perform, parent) {
   resize(420, 350);
-  lines_ = MakeGrowingList({QStringLiteral("lstGMinfo"), tr("Game master's notes"),
-                            tr("What happened, and the notes that you added")},
+  lines_ = MakeGrowingList({QStringLiteral("lstGMinfo"), "Game master's notes",
+                            "What happened, and the notes that you added"},
                            this);
-  auto* add = MakeButton(
-      {QStringLiteral("cmdAddNote"), tr("Add a note"), tr("Add a line of your own to the list")},
-      tr("&Add Note"), this);
+  auto* add =
+      MakeButton({QStringLiteral("cmdAddNote"), "Add a note", "Add a line of your own to the list"},
+                 "&Add Note", this);
   add->setDefault(true);
-  auto* log = MakeButton({QStringLiteral("cmdViewLog"), tr("View the log file"),
-                          tr("Show what the log file holds of this and earlier evenings")},
-                         tr("&View Log"), this);
-  auto* shut = MakeButton({QStringLiteral("cmdClose"), tr("Close the window"),
-                           TipWithKey(tr("Close the window"), tr("Esc"))},
-                          tr("Close"), this);
+  auto* log = MakeButton({QStringLiteral("cmdViewLog"), "View the log file",
+                          "Show the log of this and earlier sessions"},
+                         "&View Log", this);
+  auto* shut = MakeButton(
+      {QStringLiteral("cmdClose"), "Close the window", TipWithKey("Close the window", "Esc")},
+      "Close", this);
   connect(shut, &QPushButton::clicked, this, [this] { reject(); });
   auto* buttons = MakeRow(kGroupGap);
   buttons->addWidget(add);
@@ -62,16 +62,15 @@ GmWindow::GmWindow(const Perform& perform, QWidget* parent)
 void GmWindow::Opened() { lines_->scrollToBottom(); }
 
 LogWindow::LogWindow(const Perform& perform, QWidget* parent)
-    : SideWindow("frmDisplay", tr("Log"), perform, parent) {
+    : SideWindow("frmDisplay", "Log", perform, parent) {
   resize(420, 350);
   auto* lines = MakeGrowingList(
-      {QStringLiteral("lstDisplay"), tr("Lines of the log file"), tr("Every line of the log file")},
-      this);
+      {QStringLiteral("lstDisplay"), "Lines of the log file", "Every line of the log file"}, this);
   auto* count = MakeCaption({}, this);
   count->setObjectName(QStringLiteral("lblCount"));
-  auto* shut = MakeButton({QStringLiteral("cmdClose"), tr("Close the window"),
-                           TipWithKey(tr("Close the window"), tr("Esc"))},
-                          tr("Close"), this);
+  auto* shut = MakeButton(
+      {QStringLiteral("cmdClose"), "Close the window", TipWithKey("Close the window", "Esc")},
+      "Close", this);
   auto* row = MakeRow(kGroupGap);
   row->addWidget(count, 1);
   row->addWidget(shut);
@@ -82,18 +81,18 @@ LogWindow::LogWindow(const Perform& perform, QWidget* parent)
 }
 
 ReferenceWindow::ReferenceWindow(const Perform& perform, QWidget* parent)
-    : SideWindow("frmReference", tr("Reference"), perform, parent) {
+    : SideWindow("frmReference", "Reference", perform, parent) {
   resize(620, 400);
-  filter_ = MakeBox({QStringLiteral("txtFilter"), tr("Part of the name"),
-                     tr("Show the entries whose name contains this")},
+  filter_ = MakeBox({QStringLiteral("txtFilter"), "Part of the name",
+                     "Show the entries whose name contains this"},
                     0, this);
   filter_->setMinimumWidth(180);
   filter_->setMaximumWidth(QWIDGETSIZE_MAX);
   filter_->setAlignment(Qt::AlignLeft);
-  filter_->setPlaceholderText(tr("Part of the name"));
+  filter_->setPlaceholderText("Part of the name");
   filter_->setClearButtonEnabled(true);
   auto* names = MakePlainList(
-      {QStringLiteral("lstNames"), tr("Entries"), tr("The entries of the reference file")}, this);
+      {QStringLiteral("lstNames"), "Entries", "The entries of the reference file"}, this);
   auto* left = new QVBoxLayout;
   left->setSpacing(kGroupGap);
   left->addWidget(filter_);

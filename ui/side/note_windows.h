@@ -8,7 +8,7 @@ class QTreeWidget;
 
 namespace ng {
 
-/// A read-only text of the reference file, named as told.
+/// A read-only text of the reference file, with this object name.
 QPlainTextEdit* MakeEntryText(const QString& name, QWidget* parent);
 
 /// The game master's list of notes.

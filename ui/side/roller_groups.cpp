@@ -71,9 +71,8 @@ void AddDiceRow(QGridLayout* grid, const QString& words, QLineEdit* box, QPushBu
 }
 
 QPushButton* MakeRollButton(QWidget* parent) {
-  QPushButton* roll = MakeButton({"cmdRoll", QObject::tr("Roll"),
-                                  TipWithKey(QObject::tr("Roll the test"), QObject::tr("Ctrl+R"))},
-                                 QObject::tr("&Roll"), parent);
+  QPushButton* roll =
+      MakeButton({"cmdRoll", "Roll", TipWithKey("Roll the test", "Ctrl+R")}, "&Roll", parent);
   roll->setFont(InterfaceFont(13, true));
   roll->setFixedHeight(kRollHeight);
   roll->setDefault(true);
@@ -84,7 +83,7 @@ QLabel* MakeOddsLine(QWidget* parent) {
   auto* odds = new QLabel(parent);
   odds->setObjectName("lblOdds");
   odds->setProperty("tone", "muted");
-  odds->setToolTip(QObject::tr("The odds of this roll"));
+  odds->setToolTip("The odds of this roll");
   odds->setWordWrap(true);
   odds->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   odds->setFixedHeight(kOddsLines * odds->fontMetrics().lineSpacing());
@@ -109,45 +108,36 @@ QLineEdit* AddResult(QGridLayout* grid, const QString& words, const Naming& nami
 }  // namespace
 
 QGroupBox* MakeDiceGroup(QWidget* parent) {
-  QGroupBox* group = MakeGroup(QObject::tr("Dice"), parent);
+  QGroupBox* group = MakeGroup("Dice", parent);
   QVBoxLayout* rows = MakeTightRows(group);
   auto* grid = new QGridLayout;
   grid->setSpacing(kRowGap);
   grid->setColumnStretch(0, 1);
-  QPushButton* minus =
-      MakeStepButton({"cmdDicePlusMinus_1", QObject::tr("Number of dice: one less"),
-                      TipWithKey(QObject::tr("Take a die away"), QObject::tr("Down in the box"))},
-                     "–", group);
-  QLineEdit* dice =
-      MakeLargeBox({"txtNumDice", QObject::tr("Number of dice"),
-                    TipWithKey(QObject::tr("How many dice are rolled"), QObject::tr("Ctrl+D"))},
-                   group);
+  QPushButton* minus = MakeStepButton({"cmdDicePlusMinus_1", "Number of dice: one less",
+                                       TipWithKey("Take a die away", "Down in the box")},
+                                      "–", group);
+  QLineEdit* dice = MakeLargeBox(
+      {"txtNumDice", "Number of dice", TipWithKey("How many dice are rolled", "Ctrl+D")}, group);
   new SelectOnFocus(dice);
-  QPushButton* plus =
-      MakeStepButton({"cmdDicePlusMinus_0", QObject::tr("Number of dice: one more"),
-                      TipWithKey(QObject::tr("Add a die"), QObject::tr("Up in the box"))},
-                     "+", group);
-  AddDiceRow(grid, QObject::tr("&Number of dice"), dice, minus, plus);
-  QLineEdit* target = MakeLargeBox(
-      {"txtTargetNum", QObject::tr("Target number"),
-       TipWithKey(QObject::tr("What a die must reach to be a success"), QObject::tr("Ctrl+T"))},
-      group);
-  AddDiceRow(grid, QObject::tr("&Target number"), target, nullptr, nullptr);
+  QPushButton* plus = MakeStepButton(
+      {"cmdDicePlusMinus_0", "Number of dice: one more", TipWithKey("Add a die", "Up in the box")},
+      "+", group);
+  AddDiceRow(grid, "&Number of dice", dice, minus, plus);
+  QLineEdit* target = MakeLargeBox({"txtTargetNum", "Target number",
+                                    TipWithKey("What a die must reach to be a success", "Ctrl+T")},
+                                   group);
+  AddDiceRow(grid, "&Target number", target, nullptr, nullptr);
   QPushButton* back =
-      MakeStepButton({"cmdCPplusMinus_1", QObject::tr("Combat pool: take a die back"),
-                      TipWithKey(QObject::tr("Put a die back into the combat pool"),
-                                 QObject::tr("Down in the box"))},
-                     QObject::tr("Back"), group);
-  QLineEdit* pool =
-      MakeLargeBox({"txtCPx", QObject::tr("Combat pool"),
-                    TipWithKey(QObject::tr("Dice left in the combat pool"), QObject::tr("Alt+C"))},
-                   group);
+      MakeStepButton({"cmdCPplusMinus_1", "Combat pool: take a die back",
+                      TipWithKey("Put a die back into the combat pool", "Down in the box")},
+                     "Back", group);
+  QLineEdit* pool = MakeLargeBox(
+      {"txtCPx", "Combat pool", TipWithKey("Dice left in the combat pool", "Alt+C")}, group);
   QPushButton* use =
-      MakeStepButton({"cmdCPplusMinus_0", QObject::tr("Combat pool: use a die"),
-                      TipWithKey(QObject::tr("Add a die of the combat pool to this roll"),
-                                 QObject::tr("Up in the box"))},
-                     QObject::tr("Use"), group);
-  AddDiceRow(grid, QObject::tr("&Combat pool"), pool, back, use);
+      MakeStepButton({"cmdCPplusMinus_0", "Combat pool: use a die",
+                      TipWithKey("Add a die of the combat pool to this roll", "Up in the box")},
+                     "Use", group);
+  AddDiceRow(grid, "&Combat pool", pool, back, use);
   rows->addLayout(grid);
   rows->addWidget(MakeOddsLine(group));
   rows->addWidget(MakeRollButton(group));
@@ -155,37 +145,34 @@ QGroupBox* MakeDiceGroup(QWidget* parent) {
 }
 
 QGroupBox* MakeResultGroup(QWidget* parent) {
-  QGroupBox* group = MakeGroup(QObject::tr("Result"), parent);
+  QGroupBox* group = MakeGroup("Result", parent);
   QVBoxLayout* rows = MakeTightRows(group);
   auto* grid = new QGridLayout;
   grid->setVerticalSpacing(2);
   grid->setHorizontalSpacing(kGroupGap);
-  QLineEdit* successes = AddResult(
-      grid, QObject::tr("Successes"),
-      {"txtSuccess", QObject::tr("Successes"), QObject::tr("Dice that reached the target number")},
-      18, group);
+  QLineEdit* successes =
+      AddResult(grid, "Successes",
+                {"txtSuccess", "Successes", "Dice that reached the target number"}, 18, group);
   successes->setReadOnly(true);
   successes->setProperty("tone", "accent");
   QLineEdit* highest = AddResult(
-      grid, QObject::tr("Highest"),
-      {"txtHighNumber", QObject::tr("Highest total"), QObject::tr("Highest total of a die")}, 14,
-      group);
+      grid, "Highest", {"txtHighNumber", "Highest total", "Highest total of a die"}, 14, group);
   highest->setReadOnly(true);
-  AddResult(grid, QObject::tr("Last successes"),
-            {"txtLastSuccesses", QObject::tr("Last successes"),
-             QObject::tr("The attacker's successes, against which the defender rolls")},
+  AddResult(grid, "Last successes",
+            {"txtLastSuccesses", "Last successes",
+             "The attacker's successes, against which the defender rolls"},
             14, group);
   auto* totals = new QPlainTextEdit(group);
   totals->setObjectName("txtResult");
-  totals->setAccessibleName(QObject::tr("Totals of the dice"));
-  totals->setToolTip(QObject::tr("The total of every die, in rolling order"));
+  totals->setAccessibleName("Totals of the dice");
+  totals->setToolTip("The total of every die, in rolling order");
   totals->setReadOnly(true);
   totals->setTabChangesFocus(true);
   totals->setFont(FixedFont(13));
   totals->setMinimumHeight(48);
   QLabel* ruleOfOne = MakeValue("lblRuleOfOne", group);
   ruleOfOne->setText(DiceRoller::kRuleOfOne);
-  ruleOfOne->setToolTip(QObject::tr("Every face rolled was a 1"));
+  ruleOfOne->setToolTip("Every face rolled was a 1");
   ruleOfOne->setProperty("tone", "alarm");
   ruleOfOne->setFont(InterfaceFont(12, true));
   ruleOfOne->setAlignment(Qt::AlignCenter);

@@ -23,7 +23,7 @@ constexpr int kModifierBoxWidth = 48;
 constexpr int kListWidth = 178;
 constexpr int kPlainRowHeight = 20;
 
-/// Sets a box back to zero: the right click, Shift+click or Del on what stands beside the box.
+/// Sets a box back to zero: the right click, Shift+click or Del on what is beside the box.
 class ClearClick : public QObject {
  public:
   ClearClick(QWidget* caption, std::function<void()> clear)
@@ -64,9 +64,8 @@ class PageBuilder {
 
   /// With an empty name the number cannot be changed.
   QLabel* AddBase(const QString& name, const QString& words) {
-    QLineEdit* box =
-        MakeBox({name, words, QObject::tr("What the target number starts from, before modifiers")},
-                kModifierBoxWidth, page_);
+    QLineEdit* box = MakeBox({name, words, "What the target number starts from, before modifiers"},
+                             kModifierBoxWidth, page_);
     if (name.isEmpty()) {
       box->setText(QStringLiteral("4"));
       box->setReadOnly(true);
@@ -89,7 +88,7 @@ class PageBuilder {
     list->setFixedSize(kListWidth, kBoxHeight);
     QLabel* caption = MakeCaption(words, page_);
     caption->setBuddy(list);
-    caption->setToolTip(QObject::tr("Right click or Shift+click: back to the first entry, and 0"));
+    caption->setToolTip("Right click or Shift+click: back to the first entry, and 0");
     ClearWith(caption, box);
     QHBoxLayout* row = MakeRow(kGroupGap);
     row->addWidget(caption, 1);
@@ -101,10 +100,10 @@ class PageBuilder {
 
   void AddCaption(const Caption& caption) {
     const QString words = QString::fromLatin1(caption.text);
-    QPushButton* button = MakeButton(
-        {QString::fromLatin1(caption.control), words,
-         QObject::tr("Click (Space): the next step\nRight click or Shift+click (Del): back to 0")},
-        words, page_);
+    QPushButton* button =
+        MakeButton({QString::fromLatin1(caption.control), words,
+                    "Click (Space): the next step\nRight click or Shift+click (Del): back to 0"},
+                   words, page_);
     button->setProperty("shape", "caption");
     button->setFixedHeight(kBoxHeight);
     ClearWith(button, caption.box);
@@ -133,8 +132,8 @@ class PageBuilder {
  private:
   QLineEdit* MakeModifierBox(int box, const QString& words) {
     QLineEdit* modifier =
-        MakeBox({ElementName("txtRVar", box), QObject::tr("Modifier: %1").arg(words),
-                 QObject::tr("Modifier of the target number; 0 does not apply")},
+        MakeBox({ElementName("txtRVar", box), QStringLiteral("Modifier: %1").arg(words),
+                 "Modifier of the target number; 0 does not apply"},
                 kModifierBoxWidth, page_);
     modifier->setProperty("nonZero", false);
     return modifier;
@@ -151,7 +150,7 @@ class PageBuilder {
   QVBoxLayout* rows_;
 };
 
-/// The modifiers that the combatant brings along stand above the lists, the situation's below.
+/// The modifiers that come from the combatant are above the lists, the situation's below.
 bool BroughtAlong(const Caption& caption) { return caption.steps.empty(); }
 
 void AddCaptions(PageBuilder& builder, TestPage page, bool (*wanted)(const Caption&)) {
@@ -170,30 +169,29 @@ void AddSituation(PageBuilder& builder, TestPage page) {
 }
 
 void AddVisibility(PageBuilder& builder, const QString& name, int box) {
-  builder.AddList(QObject::tr("Visibility"),
-                  {name, QObject::tr("Visibility"),
-                   QObject::tr("Light and smoke; the combatant's eyes decide on the modifier "
-                               "(Up and Down)")},
+  builder.AddList("Visibility",
+                  {name, "Visibility",
+                   "Light and smoke; the modifier depends on the combatant's eyes "
+                   "(Up and Down)"},
                   box);
 }
 
 void FillRanged(PageBuilder& builder) {
-  builder.AddBase(QStringLiteral("txtRangeTargetNumber"), QObject::tr("Base number of the range"))
+  builder.AddBase(QStringLiteral("txtRangeTargetNumber"), "Base number of the range")
       ->setObjectName(QStringLiteral("lblBase"));
   AddBroughtAlong(builder, TestPage::Ranged);
   builder.AddLine();
   AddVisibility(builder, QStringLiteral("cmbVisability"), kVisibilityBox);
-  QComboBox* moves =
-      builder.AddList(QObject::tr("Attacker"),
-                      {QStringLiteral("cmbAttackerMove"), QObject::tr("Attacker's movement"),
-                       QObject::tr("How the attacker moves (Up and Down)")},
-                      kAttackerMoveBox);
+  QComboBox* moves = builder.AddList("Attacker",
+                                     {QStringLiteral("cmbAttackerMove"), "Attacker's movement",
+                                      "How the attacker moves (Up and Down)"},
+                                     kAttackerMoveBox);
   for (const AttackerMove& move : AttackerMoves()) moves->addItem(QString::fromLatin1(move.entry));
   AddSituation(builder, TestPage::Ranged);
 }
 
 void FillMelee(PageBuilder& builder) {
-  builder.AddBase(QStringLiteral("txtMeleeNumber"), QObject::tr("Base number"));
+  builder.AddBase(QStringLiteral("txtMeleeNumber"), "Base number");
   AddBroughtAlong(builder, TestPage::Melee);
   builder.AddLine();
   AddVisibility(builder, QStringLiteral("cmbVisability2"), kVisibility2Box);
@@ -201,20 +199,20 @@ void FillMelee(PageBuilder& builder) {
 }
 
 void FillBodyDodge(PageBuilder& builder) {
-  builder.AddBase({}, QObject::tr("Base number"));
+  builder.AddBase({}, "Base number");
   AddBroughtAlong(builder, TestPage::BodyDodge);
   AddSituation(builder, TestPage::BodyDodge);
   builder.AddLine();
   // Copies of what the strip above the tabs and the result show.
-  builder.AddFact(QObject::tr("Damage code"), QStringLiteral("lblDamageCode2"));
-  builder.AddFact(QObject::tr("Bullets"), QStringLiteral("lblBulletCount2"));
-  builder.AddFact(QObject::tr("Body"), QStringLiteral("lblBody"));
-  builder.AddFact(QObject::tr("Attacker's successes"), QStringLiteral("txtLastSuccesses2"));
-  builder.AddFact(QObject::tr("Ballistic / impact armour"), QStringLiteral("lblArmour"));
+  builder.AddFact("Damage code", QStringLiteral("lblDamageCode2"));
+  builder.AddFact("Bullets", QStringLiteral("lblBulletCount2"));
+  builder.AddFact("Body", QStringLiteral("lblBody"));
+  builder.AddFact("Attacker's successes", QStringLiteral("txtLastSuccesses2"));
+  builder.AddFact("Ballistic / impact armour", QStringLiteral("lblArmour"));
 }
 
 void FillGeneral(PageBuilder& builder) {
-  builder.AddBase({}, QObject::tr("Base number"));
+  builder.AddBase({}, "Base number");
   AddBroughtAlong(builder, TestPage::General);
 }
 
@@ -233,16 +231,15 @@ QStackedWidget* MakePages(const Perform& perform, QWidget* parent) {
 }  // namespace
 
 ModifiersGroup MakeModifiersGroup(const Perform& perform, QWidget* parent) {
-  QGroupBox* group = MakeGroup(QObject::tr("Modifiers"), parent);
+  QGroupBox* group = MakeGroup("Modifiers", parent);
   QVBoxLayout* rows = MakeTightRows(group);
   QStackedWidget* pages = MakePages(perform, group);
   ElidedLabel* sum = MakeElided(QStringLiteral("lblSum"), group);
   Embolden(sum);
-  sum->setToolTip(QObject::tr("What the target number is made of"));
-  QPushButton* zero = MakeButton(
-      {QStringLiteral("cmdZeroAll"), QObject::tr("Set all to 0"),
-       TipWithKey(QObject::tr("Set all modifiers of this page to 0"), QObject::tr("Alt+0"))},
-      QObject::tr("Set all to &0"), group);
+  sum->setToolTip("What the target number is made of");
+  QPushButton* zero = MakeButton({QStringLiteral("cmdZeroAll"), "Set all to 0",
+                                  TipWithKey("Set all modifiers of this page to 0", "Alt+0")},
+                                 "Set all to &0", group);
   QHBoxLayout* foot = MakeRow(kGroupGap);
   foot->addWidget(sum, 1);
   foot->addWidget(zero);

@@ -14,9 +14,9 @@ struct ModifiersGroup {
   QStackedWidget* pages;
 };
 
-/// For each page of the roller the base number, what the combatant brings along, the lists of
-/// visibility and movement, and a row for every caption; below them the sum. The boxes are filled
-/// by the painter, by their names.
+/// For each page of the roller the base number, the modifiers that come from the combatant, the
+/// lists of visibility and movement, and a row for every caption; below them the sum. The boxes are
+/// filled by the painter, by their names.
 ModifiersGroup MakeModifiersGroup(const Perform& perform, QWidget* parent);
 
 }  // namespace ng

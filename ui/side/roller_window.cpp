@@ -37,7 +37,7 @@ constexpr unsigned kGeneral = PageBit(TestPage::General);
 }  // namespace
 
 RollerWindow::RollerWindow(const Perform& perform, QWidget* parent)
-    : SideWindow("ngdr", tr("Dice roller"), perform, parent) {
+    : SideWindow("ngdr", "Dice roller", perform, parent) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(kMargin, kMargin - 2, kMargin, kMargin);
   column->setSpacing(6);
@@ -79,22 +79,22 @@ QFrame* RollerWindow::MakeStrip() {
   };
   ElidedLabel* name = MakeElided(QStringLiteral("lblName"), strip);
   name->setFont(InterfaceFont(12, true));
-  name->setAccessibleName(tr("Combatant"));
+  name->setAccessibleName("Combatant");
   row->addWidget(name, 5);
   ElidedLabel* skill = MakeElided(QStringLiteral("lblSkill"), strip);
   Embolden(skill);
-  skill->setAccessibleName(tr("Skill"));
-  show(MakeCaption(tr("Skill"), strip), kRanged | kMelee | kGeneral);
+  skill->setAccessibleName("Skill");
+  show(MakeCaption("Skill", strip), kRanged | kMelee | kGeneral);
   show(skill, kRanged | kMelee | kGeneral, 5);
   ElidedLabel* damage = MakeElided(QStringLiteral("lblDamageCode"), strip);
   Embolden(damage);
-  damage->setAccessibleName(tr("Damage code"));
-  show(MakeCaption(tr("Damage"), strip), kRanged | kMelee | kBodyDodge);
+  damage->setAccessibleName("Damage code");
+  show(MakeCaption("Damage", strip), kRanged | kMelee | kBodyDodge);
   show(damage, kRanged | kMelee | kBodyDodge, 3);
   ElidedLabel* bullets = MakeElided(QStringLiteral("lblBulletCount"), strip);
   Embolden(bullets);
-  bullets->setAccessibleName(tr("Bullets"));
-  show(MakeCaption(tr("Bullets"), strip), kRanged | kBodyDodge);
+  bullets->setAccessibleName("Bullets");
+  show(MakeCaption("Bullets", strip), kRanged | kBodyDodge);
   show(bullets, kRanged | kBodyDodge, 1);
   return strip;
 }
@@ -102,22 +102,21 @@ QFrame* RollerWindow::MakeStrip() {
 QTabBar* RollerWindow::MakeTabs() {
   auto* tabs = new QTabBar(this);
   tabs->setObjectName(QStringLiteral("tabTest"));
-  tabs->setAccessibleName(tr("Kind of test"));
+  tabs->setAccessibleName("Kind of test");
   tabs->setExpanding(true);
   tabs->setDocumentMode(true);
   tabs->setDrawBase(false);
-  for (const QString& title :
-       {tr("&1 Ranged"), tr("&2 Melee"), tr("&3 Body / Dodge"), tr("&4 General")}) {
+  for (const char* title : {"&1 Ranged", "&2 Melee", "&3 Body / Dodge", "&4 General"}) {
     const int tab = tabs->addTab(title);
-    tabs->setTabToolTip(tab, TipWithKey(tr("Start a test of this kind for the combatant shown"),
-                                        tr("Alt+%1").arg(tab + 1)));
+    tabs->setTabToolTip(tab, TipWithKey("Start a test of this kind for the combatant shown",
+                                        QStringLiteral("Alt+%1").arg(tab + 1)));
   }
   return tabs;
 }
 
 void RollerWindow::BuildMenu(const Perform& perform) {
   auto* bar = new QMenuBar(this);
-  QMenu* menu = bar->addMenu(tr("&Shortcuts"));
+  QMenu* menu = bar->addMenu("&Shortcuts");
   menu->setToolTipsVisible(true);
   const auto add = [this, menu](const char* name, const QString& text) {
     QAction* action = menu->addAction(text);
@@ -127,7 +126,7 @@ void RollerWindow::BuildMenu(const Perform& perform) {
         QKeySequence(QString::fromLatin1(RollerKey(name).key), QKeySequence::PortableText));
     return action;
   };
-  connect(add("Roll", tr("&Roll")), &QAction::triggered, this,
+  connect(add("Roll", "&Roll"), &QAction::triggered, this,
           [perform] { perform({"ngdr.cmdRoll"}); });
   const auto focus = [this](const char* box) {
     auto* edit = findChild<QLineEdit*>(QString::fromLatin1(box));
@@ -136,8 +135,8 @@ void RollerWindow::BuildMenu(const Perform& perform) {
       edit->selectAll();
     };
   };
-  connect(add("NumDice", tr("&Number of dice")), &QAction::triggered, this, focus("txtNumDice"));
-  connect(add("TargNum", tr("&Target number")), &QAction::triggered, this, focus("txtTargetNum"));
+  connect(add("NumDice", "&Number of dice"), &QAction::triggered, this, focus("txtNumDice"));
+  connect(add("TargNum", "&Target number"), &QAction::triggered, this, focus("txtTargetNum"));
   layout()->setMenuBar(bar);
 }
 

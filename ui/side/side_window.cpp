@@ -22,7 +22,7 @@ SideWindow::SideWindow(const char* name, const QString& title, Perform perform, 
   setObjectName(QString::fromLatin1(name));
   setWindowTitle(title);
   setModal(false);
-  // The main window's menus do not hear the keys of this one.
+  // The shortcuts of the main window's menus do not work in this one.
   const QString key = QString::fromLatin1(FindCommand("mnuHelpContents")->shortcut);
   auto* help = new QShortcut(QKeySequence(key, QKeySequence::PortableText), this);
   connect(help, &QShortcut::activated, this, [this] {

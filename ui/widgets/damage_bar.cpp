@@ -6,7 +6,7 @@
 #include <array>
 #include <cmath>
 
-#include "combat/damage_monitor.h"
+#include "combat/wounds.h"
 #include "ui/look/theme.h"
 
 namespace ng {
@@ -16,13 +16,13 @@ constexpr int kBarHeight = 31;
 constexpr int kLeastBoxWidth = 12;
 
 /// The letter in each box, blank where no level begins.
-constexpr std::array<char, DamagePanel::kBoxes> kLetters = {'L', ' ', 'M', ' ', ' ',
-                                                            'S', ' ', ' ', ' ', 'D'};
+constexpr std::array<char, kTrackBoxes> kLetters = {'L', ' ', 'M', ' ', ' ',
+                                                    'S', ' ', ' ', ' ', 'D'};
 
-/// The area of a box: the edges lie on whole device pixels, a pixel of room between two boxes.
+/// The area of a box: the edges are on whole device pixels, with a pixel between two boxes.
 QRectF BoxArea(const QWidget& bar, int box) {
   const double scale = bar.devicePixelRatioF();
-  const double pitch = (bar.width() + 1.0) / DamagePanel::kBoxes;
+  const double pitch = (bar.width() + 1.0) / kTrackBoxes;
   const double left = std::round(box * pitch * scale) / scale;
   const double right = std::round((box + 1) * pitch * scale) / scale - 1;
   return {left, 0, right - left, static_cast<double>(bar.height())};
@@ -37,7 +37,7 @@ DamageBar::DamageBar(Track track, QWidget* parent) : QWidget(parent), track_(tra
 }
 
 void DamageBar::ShowLevel(int boxes) {
-  const int held = std::clamp(boxes, 0, DamagePanel::kBoxes);
+  const int held = std::clamp(boxes, 0, kTrackBoxes);
   if (held == boxes_) return;
   boxes_ = held;
   Announce();
@@ -45,7 +45,7 @@ void DamageBar::ShowLevel(int boxes) {
 }
 
 QSize DamageBar::minimumSizeHint() const {
-  return {DamagePanel::kBoxes * kLeastBoxWidth, fontMetrics().height() + 4};
+  return {kTrackBoxes * kLeastBoxWidth, fontMetrics().height() + 4};
 }
 
 QSize DamageBar::sizeHint() const { return {minimumSizeHint().width(), kBarHeight}; }
@@ -57,7 +57,7 @@ void DamageBar::paintEvent(QPaintEvent* /*event*/) {
   QFont letters = font();
   letters.setBold(true);
   painter.setFont(letters);
-  for (int box = 0; box < DamagePanel::kBoxes; ++box) {
+  for (int box = 0; box < kTrackBoxes; ++box) {
     const QRectF area = BoxArea(*this, box);
     const bool filled = box < boxes_;
     painter.fillRect(area, filled ? fill : theme.fieldEdge);
@@ -71,7 +71,7 @@ void DamageBar::paintEvent(QPaintEvent* /*event*/) {
 void DamageBar::Announce() {
   setAccessibleName(QStringLiteral("%1 of %2, %3")
                         .arg(boxes_)
-                        .arg(DamagePanel::kBoxes)
+                        .arg(kTrackBoxes)
                         .arg(QLatin1String(LevelOf(track_, Integer(boxes_)).name)));
   QAccessibleEvent changed(this, QAccessible::NameChanged);
   QAccessible::updateAccessibility(&changed);

@@ -7,7 +7,7 @@
 
 namespace ng {
 
-/// The ten boxes of a damage track, filled from the left. The letters L, M, S and D stand in the
+/// The ten boxes of a damage track, filled from the left. The letters L, M, S and D are in the
 /// boxes at which a wound level begins, so that the level can be read without the colour.
 class DamageBar : public QWidget, public ShowsLevel {
   Q_OBJECT
@@ -16,7 +16,7 @@ class DamageBar : public QWidget, public ShowsLevel {
   explicit DamageBar(Track track, QWidget* parent = nullptr);
 
   int boxes() const { return boxes_; }
-  /// 0 to 10; what lies outside counts as the nearer end.
+  /// 0 to 10; a number outside counts as the nearer end.
   void ShowLevel(int boxes) override;
 
   QSize minimumSizeHint() const override;

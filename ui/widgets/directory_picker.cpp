@@ -6,6 +6,7 @@
 #include <QFileIconProvider>
 #include <QFileSystemModel>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QStorageInfo>
 #include <QTreeView>
 #include <utility>
@@ -57,9 +58,9 @@ DirectoryPicker::DirectoryPicker(const QString& drivesName, const QString& treeN
       tree_(new DirectoryTree(*this, parent)),
       model_(new QFileSystemModel(this)) {
   drives_->setObjectName(drivesName);
-  drives_->setAccessibleName(tr("Drives"));
+  drives_->setAccessibleName("Drives");
   tree_->setObjectName(treeName);
-  tree_->setAccessibleName(tr("Directory"));
+  tree_->setAccessibleName("Directory");
   FillDrives();
   BuildTree();
   connect(drives_, &QComboBox::activated, this,
@@ -71,7 +72,7 @@ DirectoryPicker::DirectoryPicker(const QString& drivesName, const QString& treeN
     emit DirectoryChosen(model_->filePath(Marked()));
   });
   connect(tree_, &QTreeView::expanded, this, [this] { follow_ = follow_ && painting_; });
-  // Directories are read in the background, and sorting what came in moves the marked one.
+  // Directories are read in the background, and sorting what came in moves the selected one.
   connect(model_, &QFileSystemModel::layoutChanged, this, &DirectoryPicker::Follow,
           Qt::QueuedConnection);
 }
@@ -106,7 +107,7 @@ void DirectoryPicker::BuildTree() {
 }
 
 bool DirectoryPicker::eventFilter(QObject* watched, QEvent* event) {
-  // A deep tree scrolls sideways, and the mark of a short name still goes through the whole row.
+  // A deep tree scrolls sideways, and the selection of a short name still covers the whole row.
   if (event->type() == QEvent::Resize) {
     tree_->header()->setMinimumSectionSize(tree_->viewport()->width());
   }
@@ -151,6 +152,8 @@ void DirectoryPicker::ShowDrive(const QString& directory) {
 void DirectoryPicker::Follow() {
   if (!follow_ || !sought_.isValid()) return;
   tree_->scrollTo(sought_, QAbstractItemView::PositionAtCenter);
+  // The names of the directories above say where this one is.
+  tree_->horizontalScrollBar()->setValue(0);
 }
 
 }  // namespace ng

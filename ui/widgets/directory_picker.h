@@ -25,8 +25,8 @@ class DirectoryPicker : public QObject {
   QComboBox* Drives() const { return drives_; }
   QTreeView* Tree() const { return tree_; }
 
-  /// Marks the directory in the tree and its drive in the list; for one that is not there
-  /// the tree opens at the user's home, without a mark.
+  /// Selects the directory in the tree and its drive in the list; for one that is not there the
+  /// tree opens at the user's home and nothing is selected.
   void ShowDirectory(const std::string& directory);
 
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -48,7 +48,7 @@ class DirectoryPicker : public QObject {
   QFileSystemModel* model_;
   bool painting_ = false;
   /// The directory that the tree was opened at. It is kept in sight while those round it are still
-  /// being read, until the user turns to others.
+  /// being read, until the user chooses another.
   QPersistentModelIndex sought_;
   bool follow_ = false;
 };

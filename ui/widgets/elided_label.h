@@ -4,8 +4,8 @@
 
 namespace ng {
 
-/// A label of a width that does not hang on its text: a longer text is cut with an ellipsis and
-/// stands in full in the tooltip. A text equal to the dynamic property "alarmText" is shown red.
+/// A label of a width that does not depend on its text: a longer text is cut with an ellipsis and
+/// shown in full in the tooltip. A text equal to the dynamic property "alarmText" is shown red.
 class ElidedLabel : public QLabel {
   Q_OBJECT
 

@@ -1,8 +1,8 @@
 #include "ui/widgets/initiative_grid_model.h"
 
-#include <QColor>
 #include <array>
 
+#include "ui/look/row_colour.h"
 #include "ui/look/theme.h"
 #include "ui/wiring/text.h"
 
@@ -17,10 +17,12 @@ QVariant AlignmentOf(int column) {
   return QVariant::fromValue(kAlignments[static_cast<std::size_t>(column)]);
 }
 
-/// The platform numbers colours 0xBBGGRR.
-QColor ToColor(InitiativeGrid::Colour colour) {
-  const int number = static_cast<int>(colour);
-  return QColor(number & 0xFF, (number >> 8) & 0xFF, (number >> 16) & 0xFF);
+/// What is read aloud: the name says in words what its colour says.
+QString SpokenName(const InitiativeGrid::Row& row) {
+  QString name = ToQString(row.text[InitiativeGrid::kNameColumn]);
+  const RowColour colour = row.colour[InitiativeGrid::kNameColumn];
+  if (colour == RowColour::White) return name;
+  return name + QStringLiteral(", ") + ToQString(LookOf(colour).badge);
 }
 
 QFont RowFont(bool shown) {
@@ -32,12 +34,12 @@ QFont RowFont(bool shown) {
 QString TipOf(int column) {
   switch (column) {
     case InitiativeGrid::kNameColumn:
-      return InitiativeGridModel::tr("In the order of the net initiative");
+      return "In the order of the net initiative";
     case InitiativeGrid::kRollColumn:
-      return InitiativeGridModel::tr("Initiative rolled; the wound modifier comes off it (Net)");
+      return "Initiative rolled; the wound modifier comes off it (Net)";
     default:
-      return InitiativeGridModel::tr(
-          "Condition: stun first, then physical. L light, M moderate, S serious, D deadly, 0 none");
+      return "Condition: stun first, then physical. L light, M moderate, S serious, D deadly, 0 "
+             "none";
   }
 }
 
@@ -57,10 +59,12 @@ QVariant InitiativeGridModel::data(const QModelIndex& index, int role) const {
   switch (role) {
     case Qt::DisplayRole:
       return ToQString(row.text[column]);
+    case Qt::AccessibleTextRole:
+      return column == InitiativeGrid::kNameColumn ? SpokenName(row) : ToQString(row.text[column]);
     case Qt::ToolTipRole:
       return column == InitiativeGrid::kNameColumn ? ToQString(row.text[column]) : QVariant();
     case Qt::BackgroundRole:
-      return ToColor(row.colour[column]);
+      return ToQColor(row.colour[column]);
     case Qt::ForegroundRole:
       return QColor(Qt::black);
     case Qt::FontRole:

@@ -7,7 +7,7 @@
 
 namespace ng {
 
-/// What the grid's view shows: a copy of the grid's rows, which is told apart from the new ones so
+/// What the grid's view shows: a copy of the grid's rows, which is compared with the new ones so
 /// that only what changed is painted. View row 0 is grid row 1, the header row is not among them.
 class InitiativeGridModel : public QAbstractTableModel {
   Q_OBJECT

@@ -4,11 +4,13 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <algorithm>
 #include <array>
 
 #include "base/code_page.h"
 #include "ui/look/theme.h"
+#include "ui/wiring/code_page_input.h"
 
 namespace ng {
 namespace {
@@ -23,10 +25,10 @@ constexpr std::array<int, InitiativeGrid::kColumns> kLeastWidths = {0, 56, 52};
 constexpr std::array<const char*, InitiativeGrid::kColumns> kCellActs = {"GridX_Name", "GridX_Roll",
                                                                          "GridX_PM"};
 
-/// Between rows whose colours never change, the lines never change either.
+/// The colours of the rows never change, and neither do the lines between them.
 constexpr QColor kGridLine(0xB6, 0xBC, 0xC6);
 
-/// Paints a cell without the style's mark of the current cell, which would tint the row's colour.
+/// Paints a cell without the style's focus tint, which would change the row's colour.
 class CellDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -42,6 +44,10 @@ class CellDelegate : public QStyledItemDelegate {
   }
 };
 
+bool IsEscape(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Escape && event.modifiers() == Qt::NoModifier;
+}
+
 bool IsEnter(int key) { return key == Qt::Key_Return || key == Qt::Key_Enter; }
 
 }  // namespace
@@ -49,7 +55,7 @@ bool IsEnter(int key) { return key == Qt::Key_Return || key == Qt::Key_Enter; }
 InitiativeGridView::InitiativeGridView(Perform perform, QWidget* parent)
     : QTableView(parent), perform_(std::move(perform)) {
   setObjectName(QStringLiteral("GridX"));
-  setAccessibleName(tr("Combatants in initiative order"));
+  setAccessibleName("Combatants in initiative order");
   setModel(&model_);
   setItemDelegate(new CellDelegate(this));
   setShowGrid(false);
@@ -85,6 +91,7 @@ void InitiativeGridView::ShowRows(const InitiativeGrid& grid) {
   if (model_.Show(grid)) {
     AutoSizeGrid();
     FitRows();
+    ShowTip();
   }
   const bool moved = currentRow_ != grid.CurrentRow() || currentColumn_ != grid.CurrentColumn();
   currentRow_ = grid.CurrentRow();
@@ -93,9 +100,7 @@ void InitiativeGridView::ShowRows(const InitiativeGrid& grid) {
   if (currentIndex() != current) {
     selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
   }
-  if (!moved) return;
-  if (current.isValid()) scrollTo(current);
-  viewport()->update();
+  if (moved) viewport()->update();
 }
 
 void InitiativeGridView::SetShownRow(int row) {
@@ -133,8 +138,26 @@ void InitiativeGridView::FitRows() {
   }
 }
 
+void InitiativeGridView::ShowTip() {
+  if (!QToolTip::isVisible() || !viewport()->underMouse()) return;
+  const QPoint mouse = QCursor::pos();
+  const QString tip = indexAt(viewport()->mapFromGlobal(mouse)).data(Qt::ToolTipRole).toString();
+  if (QToolTip::text() != tip) QToolTip::showText(mouse, tip, viewport());
+}
+
+bool InitiativeGridView::event(QEvent* event) {
+  if (event->type() != QEvent::ShortcutOverride) return QTableView::event(event);
+  // Elsewhere in the window this key goes to the grid; here it takes back what was typed.
+  const bool own = IsEscape(static_cast<const QKeyEvent&>(*event));
+  if (own) event->accept();
+  return own || QTableView::event(event);
+}
+
 void InitiativeGridView::keyPressEvent(QKeyEvent* event) {
+  if (IsEscape(*event)) perform_({"GridX_Restore"});
   if (MoveCell(*event) || Type(*event)) {
+    // A step or the wheel may have moved the cell out of sight.
+    scrollTo(currentIndex());
     event->accept();
     return;
   }
@@ -201,7 +224,11 @@ bool InitiativeGridView::Type(const QKeyEvent& event) {
   }
   if (event.text().isEmpty() || !event.text().front().isPrint()) return false;
   for (const char32_t character : event.text().toUcs4()) {
-    perform_({"GridX_KeyPress", static_cast<unsigned char>(ByteOf(character)), {}});
+    if (InCodePage(character)) {
+      perform_({"GridX_KeyPress", static_cast<unsigned char>(ByteOf(character)), {}});
+    } else {
+      perform_({kLeftOutAct});
+    }
   }
   return true;
 }
@@ -220,9 +247,9 @@ void InitiativeGridView::PaintHint(QPainter& painter) const {
   painter.setFont(InterfaceFont(10));
   painter.setPen(Theme::Current().muted);
   painter.drawText(viewport()->rect().adjusted(14, 17, -4, 0), Qt::AlignLeft | Qt::AlignTop,
-                   tr("No combatants yet.\nImport characters with\nOpen (Ctrl+O), or take up\n"
-                      "a saved fight with\nFile \u203a Load State (Ctrl+L).\n"
-                      "Files may be dropped here, too.\n\nHelp (F1) tells how a turn runs."));
+                   "No combatants yet.\nImport characters with\nOpen (Ctrl+O), or load\n"
+                   "a saved fight with\nFile \u203a Load State (Ctrl+L).\n"
+                   "You can also drop files here.\n\nPress F1 to see how a turn works.");
 }
 
 void InitiativeGridView::PaintFrames(QPainter& painter) const {

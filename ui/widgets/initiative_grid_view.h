@@ -21,6 +21,7 @@ class InitiativeGridView : public QTableView, public ShowsGrid {
   void ShowGrid(const InitiativeGrid& grid, int shownRow) override;
 
  protected:
+  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
@@ -35,6 +36,8 @@ class InitiativeGridView : public QTableView, public ShowsGrid {
   /// Makes the rows lower before they begin to scroll.
   void FitRows();
   int ContentWidth(int column) const;
+  /// Has the tooltip say what is below the mouse now.
+  void ShowTip();
   bool MoveCell(const QKeyEvent& event);
   bool Type(const QKeyEvent& event);
   void PaintHint(QPainter& painter) const;

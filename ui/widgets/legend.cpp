@@ -4,7 +4,9 @@
 #include <QLabel>
 #include <QPainter>
 
+#include "ui/look/row_colour.h"
 #include "ui/look/theme.h"
+#include "ui/wiring/text.h"
 
 namespace ng {
 namespace {
@@ -47,10 +49,11 @@ Legend::Legend(QWidget* parent) : QWidget(parent) {
     row->addWidget(label);
     row->addSpacing(2);
   };
-  add({12, 12}, QColor(0, 255, 0), 1, tr("turn"));
-  add({12, 12}, QColor(255, 255, 0), 1, tr("delay"));
-  add({12, 12}, QColor(255, 0, 0), 1, tr("inactive"));
-  add({20, 14}, Qt::white, 2, tr("shown"));
+  for (const TurnLook& look : kTurnLooks) {
+    if (look.colour == RowColour::White) continue;
+    add({12, 12}, ToQColor(look.colour), 1, ToQString(look.legend));
+  }
+  add({20, 14}, Qt::white, 2, "shown");
   row->addStretch();
 }
 

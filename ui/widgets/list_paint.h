@@ -10,10 +10,10 @@ class QTreeWidget;
 
 namespace ng {
 
-/// Fills a list anew. Columns are separated by tabs; the last column of the list takes what is left
-/// of a line, with two blanks for a tab. A column is aligned as its header is. Nothing is marked or
-/// selected afterwards. A list with the property "showsEnd" shows its last line, the others their
-/// first.
+/// Fills a list again. Columns are separated by tabs; the last column of the list takes what is
+/// left of a line, with two blanks for a tab. A column is aligned as its header is. Nothing is
+/// checked or selected afterwards. A list with the property "showsEnd" shows its last line, the
+/// others their first.
 void ShowLines(QTreeWidget& tree, const std::vector<std::string>& lines);
 void ShowLines(QListWidget& list, const std::vector<std::string>& lines);
 
@@ -23,7 +23,7 @@ void ShowMarks(QTreeWidget& tree, const std::vector<CarriedLine>& lines);
 /// The same for a list whose marked lines are the selected ones.
 void ShowMarks(QListWidget& list, const std::vector<CarriedLine>& lines);
 
-/// Marks one line, none for -1.
+/// Selects one line, none for -1.
 void ShowSelection(QTreeWidget& tree, int line);
 
 }  // namespace ng

@@ -18,7 +18,7 @@ constexpr std::array<double, 4> kSizes = {14, 12, 11, 10};
 
 PhaseLabel::PhaseLabel(QWidget* parent) : QLabel(parent) {
   setObjectName(QStringLiteral("lblPhase"));
-  setAccessibleName(tr("Step of the combat turn"));
+  setAccessibleName("Step of the combat turn");
   setFrameShape(StyledPanel);
   setFixedHeight(kHeight);
   setIndent(kPadding);
@@ -32,7 +32,7 @@ void PhaseLabel::ShowText(const std::string& text) {
 }
 
 void PhaseLabel::FitFont() {
-  // Before the window is arranged the width says nothing.
+  // Before the window is laid out the width means nothing.
   if (!testAttribute(Qt::WA_Resized)) return;
   for (const double size : kSizes) {
     const QFont candidate = InterfaceFont(size, true);

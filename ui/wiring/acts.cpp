@@ -11,6 +11,8 @@
 #include <utility>
 
 #include "app/commands.h"
+#include "ui/widgets/note_edit.h"
+#include "ui/wiring/code_page_input.h"
 #include "ui/wiring/copies.h"
 #include "ui/wiring/text.h"
 
@@ -46,6 +48,7 @@ class Connector {
   void ConnectLine(QLineEdit& edit) const {
     const WidgetName name = CommandOf(edit);
     if (name.control.empty() || edit.isReadOnly()) return;
+    KeepToCodePage(edit, perform_);
     QObject::connect(&edit, &QLineEdit::textEdited, &owner_,
                      [name, perform = perform_](const QString& text) {
                        perform({name.control, name.index, FromQString(text)});
@@ -55,6 +58,10 @@ class Connector {
   void ConnectText(QPlainTextEdit& edit) const {
     const WidgetName name = CommandOf(edit);
     if (name.control.empty()) return;
+    if (auto* note = qobject_cast<NoteEdit*>(&edit)) {
+      QObject::connect(note, &NoteEdit::LeftOut, &owner_,
+                       [perform = perform_] { perform({kLeftOutAct}); });
+    }
     QObject::connect(&edit, &QPlainTextEdit::textChanged, &owner_,
                      [name, &edit, &painting = painting_, perform = perform_] {
                        if (painting) return;
@@ -119,7 +126,7 @@ class Connector {
   void ConnectCombo(QComboBox& combo) const {
     const WidgetName name = CommandOf(combo);
     if (name.control.empty()) return;
-    // What the user chooses, the entry that is chosen already included.
+    // Whatever the user chooses, even the entry that is chosen already.
     QObject::connect(&combo, &QComboBox::activated, &owner_,
                      [name, &combo, perform = perform_](int entry) {
                        perform({name.control, entry, FromQString(combo.itemText(entry))});

@@ -21,9 +21,9 @@ struct WidgetName {
 };
 WidgetName ParseWidgetName(const QString& objectName);
 
-/// Connects every widget below `window` that a command is named after to the command's act. What
-/// stands before the widgets' names in the acts of this window is `prefix`: "ngdr." or nothing. A
-/// copy of a control does what the first one does. Check boxes and check marks do not change by
+/// Connects every widget below `window` that a command is named after to the command's act. The
+/// widgets' names have `prefix` before them in the acts of this window: "ngdr." or nothing. A copy
+/// of a control does what the first one does. Check boxes and check marks do not change by
 /// themselves: the form decides and is painted afterwards.
 /// The connections live as long as `owner`; nothing comes through while `painting` is set.
 void ConnectActs(QWidget& window, QObject& owner, const bool& painting, const Perform& perform,

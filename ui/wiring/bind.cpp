@@ -8,7 +8,9 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QStyle>
+#include <QTextCursor>
 #include <QTreeWidget>
+#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -21,24 +23,66 @@
 namespace ng {
 namespace {
 
-/// Where nothing is to be shown, what the widget has for that.
+/// What the widget shows in place of an empty text.
 QString OrEmptyText(const QWidget& widget, const QString& text) {
   return text.isEmpty() ? widget.property("emptyText").toString() : text;
 }
 
-void ShowLabel(QLabel& label, const QString& text) {
-  const QString shown = OrEmptyText(label, text);
-  if (label.text() == shown) return;
-  label.setText(shown);
-  // The style colours the turn badge by what it says.
-  if (label.objectName() == QLatin1String("lblTurn")) label.style()->polish(&label);
+/// A notice takes room only while it has something to say.
+void HideEmpty(QWidget& widget, const QString& text) {
+  if (widget.property("hidesEmpty").toBool()) widget.setHidden(text.isEmpty());
 }
 
+void ShowLabel(QLabel& label, const QString& text) {
+  const QString shown = OrEmptyText(label, text);
+  if (label.text() != shown) label.setText(shown);
+  HideEmpty(label, text);
+}
+
+/// The style colours the badge by its state.
+void ShowBadge(QLabel& badge, TurnState state) {
+  const int number = static_cast<int>(state);
+  if (badge.property("turnState") == number) return;
+  badge.setProperty("turnState", number);
+  badge.setText(ToQString(LookOf(state).badge));
+  badge.style()->polish(&badge);
+}
+
+/// Sets the part that differs, so that cursor, selection and scrolling stay where they are. What
+/// is only read begins at its first line.
 void ShowNote(QPlainTextEdit& edit, const QString& note) {
   QString text = note;
   text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
   text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-  if (edit.toPlainText() != text) edit.setPlainText(text);
+  // The widget gives this blank back as a plain one.
+  text.replace(QChar::Nbsp, QLatin1Char(' '));
+  const QString shown = edit.toPlainText();
+  if (shown == text) return;
+  const qsizetype shorter = std::min(shown.size(), text.size());
+  qsizetype front = 0;
+  while (front < shorter && shown[front] == text[front]) ++front;
+  qsizetype back = 0;
+  while (back < shorter - front && shown[shown.size() - 1 - back] == text[text.size() - 1 - back]) {
+    ++back;
+  }
+  if (edit.isReadOnly() || (front == 0 && back == 0)) return edit.setPlainText(text);
+  QTextCursor part(edit.document());
+  part.setPosition(static_cast<int>(front));
+  part.setPosition(static_cast<int>(shown.size() - back), QTextCursor::KeepAnchor);
+  part.insertText(text.mid(front, text.size() - back - front));
+  // Ctrl+Z must not bring back another combatant's note.
+  edit.document()->clearUndoRedoStacks();
+}
+
+/// Where the box is being typed into, the cursor stays before the same text.
+void ShowBox(QLineEdit& line, const QString& text) {
+  if (line.text() == text) return;
+  const bool typing = line.hasFocus();
+  const QString behind = line.text().mid(line.cursorPosition());
+  line.setText(text);
+  if (typing && text.endsWith(behind)) {
+    line.setCursorPosition(static_cast<int>(text.size() - behind.size()));
+  }
 }
 
 /// A modifier that is not zero stands out.
@@ -52,14 +96,13 @@ void MarkNonZero(QLineEdit& box) {
 }
 
 void ShowLine(QLineEdit& line, const QString& text) {
-  const QString shown = OrEmptyText(line, text);
-  // Setting an equal text would move the cursor.
-  if (line.text() != shown) line.setText(shown);
+  ShowBox(line, OrEmptyText(line, text));
   if (line.property("nonZero").isValid()) MarkNonZero(line);
 }
 
 void ShowButton(QAbstractButton& button, const QString& text) {
   if (button.text() != text) button.setText(text);
+  HideEmpty(button, text);
 }
 
 void ShowTitle(QGroupBox& group, const QString& text) {
@@ -233,15 +276,15 @@ void Binder::CheckList(ControlName control, const std::vector<CarriedLine>& line
   place.lines = std::move(texts);
 }
 
-void Binder::Grid(ControlName control, const InitiativeGrid& grid, int shownRow) {
+void Binder::Turn(ControlName control, TurnState state) {
   for (QObject* widget : NextPlace(control).widgets) {
-    if (auto* view = dynamic_cast<ShowsGrid*>(widget)) view->ShowGrid(grid, shownRow);
+    if (auto* badge = qobject_cast<QLabel*>(widget)) ShowBadge(*badge, state);
   }
 }
 
-void Binder::Help(ControlName control, const HelpForm& help) {
+void Binder::Grid(ControlName control, const InitiativeGrid& grid, int shownRow) {
   for (QObject* widget : NextPlace(control).widgets) {
-    if (auto* browser = dynamic_cast<ShowsHelp*>(widget)) browser->ShowHelp(help);
+    if (auto* view = dynamic_cast<ShowsGrid*>(widget)) view->ShowGrid(grid, shownRow);
   }
 }
 

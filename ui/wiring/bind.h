@@ -15,11 +15,11 @@ namespace ng {
 
 /// Paints a window from what the controls of its form show, and turns what the user does to the
 /// widgets into acts. A widget carries its control's name as object name, with "_" and the index
-/// behind it where it is an element of a control array; its copies stand in the table of copies. A
+/// after it where it is an element of a control array; its copies are in the table of copies. A
 /// control without a widget is passed over.
 class Binder : public QObject, private ControlVisitor {
  public:
-  /// The window must hold all its widgets already. `prefix` stands before the widgets' names in the
+  /// The window must hold all its widgets already. `prefix` is put before the widgets' names in the
   /// acts.
   Binder(QWidget& window, const Perform& perform, const std::string& prefix = {});
 
@@ -27,7 +27,7 @@ class Binder : public QObject, private ControlVisitor {
   /// first one looks the widgets up by their names, the later ones know them by their place.
   /// Another order is a fault of ours; it is told on the standard error, and the names are looked
   /// up again. No exception leaves this, since it is called from the toolkit's slots: one that ends
-  /// the walk is told there, too, and the next walk paints all anew.
+  /// the walk is told there, too, and the next walk paints everything again.
   void Paint(const std::function<void(ControlVisitor&)>& walk);
   /// What changes now is painted and not done by the user.
   bool Painting() const { return painting_; }
@@ -53,8 +53,8 @@ class Binder : public QObject, private ControlVisitor {
   void Level(ControlName control, int boxes) override;
   void List(ControlName control, const std::vector<std::string>& lines) override;
   void CheckList(ControlName control, const std::vector<CarriedLine>& lines) override;
+  void Turn(ControlName control, TurnState state) override;
   void Grid(ControlName control, const InitiativeGrid& grid, int shownRow) override;
-  void Help(ControlName control, const HelpForm& help) override;
 
   using Lookup = std::vector<QObject*> (Binder::*)(const ControlName&) const;
   Place& NextPlace(const ControlName& control, Lookup lookup = &Binder::Named);

@@ -12,7 +12,7 @@ class QWidget;
 namespace ng {
 
 /// Gives the buttons that are pressed all through a fight their keys: wounds, shots, reloading, the
-/// combat pool. The keys work whatever page is open, and stand in the buttons' tips.
+/// combat pool. The keys work whatever page is open, and are named in the buttons' tips.
 void AddButtonKeys(QMainWindow& window);
 
 /// A key that presses a button while its box has the focus.
@@ -22,8 +22,8 @@ void PressWithKey(Qt::Key key, QLineEdit* box, QPushButton* button);
 /// turn, the shots and the reloading.
 void AddFightKeys(QWidget& window, const Perform& perform);
 
-/// In the boxes and notes of a window the keys that delete words and lines stay theirs, though a
-/// command has the same key elsewhere.
+/// In the boxes and notes of a window the keys that delete words and lines keep that meaning,
+/// though a command has the same key elsewhere.
 void KeepEditingKeys(QWidget& window);
 
 }  // namespace ng

@@ -31,9 +31,8 @@ QAction* MakeAction(QMainWindow& window, const Command& command, const Perform& 
   const QString tip = ToQString(command.tip);
   action->setShortcut(key);
   action->setStatusTip(tip);
-  action->setToolTip(
-      key.isEmpty() ? tip
-                    : QStringLiteral("%1 (%2)").arg(tip, key.toString(QKeySequence::NativeText)));
+  action->setToolTip(ToQString(PlainWords(command.text)) + QLatin1Char('\n') +
+                     TipWithKey(tip, key.toString(QKeySequence::NativeText)));
   action->setIconText(ToQString(command.toolbarText));
   action->setIcon(
       ToolbarIcon(command.toolbarKey, IsNext(command) ? IconColour::White : IconColour::Text));
@@ -83,7 +82,7 @@ void BuildMenus(QMainWindow& window, const Perform& perform) {
 }
 
 void BuildToolbar(QMainWindow& window) {
-  auto* bar = window.addToolBar(QObject::tr("Toolbar"));
+  auto* bar = window.addToolBar("Toolbar");
   bar->setObjectName(QStringLiteral("toolBar"));
   bar->setMovable(false);
   bar->setFloatable(false);

@@ -6,7 +6,7 @@ class QMainWindow;
 
 namespace ng {
 
-/// Fills the menu bar from the table of commands: an action for every command that stands in a
+/// Fills the menu bar from the table of commands: an action for every command that is in a
 /// menu, named after the command. A menu without entries is left out.
 void BuildMenus(QMainWindow& window, const Perform& perform);
 

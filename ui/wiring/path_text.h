@@ -9,7 +9,7 @@ namespace ng {
 /// written with.
 QString NativeText(const std::string& path);
 
-/// A path of the toolkit as the program writes it, with the system's own separators.
+/// A path of the toolkit as the program writes it, with the system's own separators and no "|".
 std::string PathText(const QString& path);
 
 /// Whether the program's path text names a directory that is there; an empty one never does.

@@ -4,7 +4,6 @@
 
 namespace ng {
 
-class HelpForm;
 class InitiativeGrid;
 
 // What a widget of our own takes from its form, where the toolkit's widgets have nothing like it.
@@ -28,12 +27,6 @@ class ShowsGrid {
   virtual ~ShowsGrid() = default;
   /// `shownRow` is the row of the displayed combatant, 1 for the first, 0 for none.
   virtual void ShowGrid(const InitiativeGrid& grid, int shownRow) = 0;
-};
-
-class ShowsHelp {
- public:
-  virtual ~ShowsHelp() = default;
-  virtual void ShowHelp(const HelpForm& help) = 0;
 };
 
 }  // namespace ng

@@ -13,6 +13,12 @@ QString ToQString(std::string_view text) {
   return result;
 }
 
+QString WithoutForeign(const QString& text) {
+  QString kept = text;
+  // A character beyond the first 65,536 is kept as two, neither of which is in the page.
+  return kept.removeIf([](QChar character) { return !InCodePage(character.unicode()); });
+}
+
 std::string FromQString(const QString& text) {
   std::string result;
   result.reserve(static_cast<std::size_t>(text.size()));

@@ -1,0 +1,106 @@
+#include "journal/steps.h"
+
+#include <utility>
+
+#include "app/commands.h"
+#include "base/text.h"
+
+namespace ng {
+namespace {
+
+/// What the act does, in the words of its command.
+std::string WordsOf(const Act& act) {
+  const Command* command = FindCommand(act.control);
+  if (command == nullptr) return act.control;
+  std::string words = PlainWords(command->text);
+  if (words.empty()) return act.control;
+  words = Replaced(words, "{track}", act.index == 0 ? "physical" : "stun");
+  return Replaced(words, "{hand}", act.index == 0 ? "primary" : "secondary");
+}
+
+/// Acts of the whole table bear no combatant's name.
+bool IsAboutTheDisplayed(const Command& command) {
+  return command.menu == Menu::None || command.menu == Menu::Combatant;
+}
+
+std::string NameOf(const Act& act, const std::string& who) {
+  const Command* command = FindCommand(act.control);
+  const std::string words = WordsOf(act);
+  if (command == nullptr || who.empty() || !IsAboutTheDisplayed(*command)) return words;
+  return who + ", " + words;
+}
+
+std::vector<Integer> Counters(const Fight& fight) {
+  std::vector<Integer> counters;
+  for (const FightField& field : FightFields()) counters.push_back(NumberIn(fight, field.member));
+  return counters;
+}
+
+const PlayerRecord& DisplayedIn(const Fight& fight) {
+  const bool held = fight.CurrentPCpointer > 0 && fight.CurrentPCpointer <= Fight::kLastSlot;
+  return fight.Players[held ? fight.CurrentPCpointer : Slot(0)];
+}
+
+}  // namespace
+
+/// A key in the grid goes to the row that it is typed into; its code is the act's index.
+Steps::Box Steps::BoxOf(const Session& session, const Act& act) {
+  if (act.control != "GridX_KeyPress") return {act.control, act.index};
+  return {act.control, session.main.GridX.CurrentRow()};
+}
+
+void Steps::Before(const Session& session, const Act& act) {
+  box_ = BoxOf(session, act);
+  const MainForm& main = session.main;
+  displayed_ = DisplayedIn(main.fight);
+  who_ = displayed_.Name;
+  counters_ = Counters(main.fight);
+  delayChecked_ = main.actions.delayChecked;
+  inactiveChecked_ = main.actions.inactiveChecked;
+}
+
+bool Steps::Changed(const Session& session, const Act& act, bool refused) {
+  const Command* command = FindCommand(act.control);
+  const std::optional<Box> before = std::exchange(edited_, std::nullopt);
+  goesOn_ = false;
+  if (command == nullptr || !IsChange(command->effect)) return false;
+  const MainForm& main = session.main;
+  const bool changed = !refused || displayed_ != DisplayedIn(main.fight) ||
+                       counters_ != Counters(main.fight) ||
+                       delayChecked_ != main.actions.delayChecked ||
+                       inactiveChecked_ != main.actions.inactiveChecked;
+  if (changed && command->effect == Effect::Edit) {
+    edited_ = box_;
+    goesOn_ = before == box_ && CanUndo();
+  }
+  return changed;
+}
+
+void Steps::Add(const Act& act, std::size_t entry) {
+  steps_.resize(done_);
+  if (goesOn_) return;
+  steps_.push_back({entry, NameOf(act, who_)});
+  done_ = steps_.size();
+}
+
+void Steps::Clear() {
+  steps_.clear();
+  done_ = 0;
+  edited_.reset();
+}
+
+std::string Steps::UndoName() const { return CanUndo() ? steps_[done_ - 1].name : std::string(); }
+
+std::string Steps::RedoName() const { return CanRedo() ? steps_[done_].name : std::string(); }
+
+std::size_t Steps::EntriesAfterRedo(std::size_t size) const {
+  return done_ + 1 < steps_.size() ? steps_[done_ + 1].first : size;
+}
+
+void Steps::MoveTo(std::size_t entries) {
+  done_ = 0;
+  while (done_ < steps_.size() && steps_[done_].first < entries) ++done_;
+  edited_.reset();
+}
+
+}  // namespace ng

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/session.h"
+
+namespace ng {
+
+/// The steps of undo: which entries each of them holds and what it is called. Successive edits of
+/// one box are one step; looks, affairs of files and refusals belong to the step before.
+class Steps {
+ public:
+  /// To be called before an act is done.
+  void Before(const Session& session, const Act& act);
+  /// Whether the act that was just done changed the fight. `refused` tells that something was told
+  /// or cancelled, which an act that changed nothing shows by.
+  bool Changed(const Session& session, const Act& act, bool refused);
+  /// The act changed the fight; `entry` is its place in the timeline. Whatever was undone goes.
+  void Add(const Act& act, std::size_t entry);
+  void Clear();
+
+  bool CanUndo() const { return done_ > 0; }
+  bool CanRedo() const { return done_ < steps_.size(); }
+  /// "Brand, physical 3 boxes"; empty for nothing.
+  std::string UndoName() const;
+  std::string RedoName() const;
+  /// The entries that are done after an undo, or after a redo with `size` entries in all.
+  std::size_t EntriesAfterUndo() const { return steps_[done_ - 1].first; }
+  std::size_t EntriesAfterRedo(std::size_t size) const;
+  /// So many entries are done now.
+  void MoveTo(std::size_t entries);
+  /// Whether a step ends at so many entries.
+  bool Any() const { return !steps_.empty(); }
+
+ private:
+  struct Step {
+    std::size_t first = 0;
+    std::string name;
+  };
+
+  std::vector<Step> steps_;
+  std::size_t done_ = 0;
+  std::string who_;
+  PlayerRecord displayed_;
+  std::vector<Integer> counters_;
+  bool delayChecked_ = false;
+  bool inactiveChecked_ = false;
+  /// The box that the entry before edited, so that a further edit goes on with it.
+  struct Box {
+    std::string control;
+    int element = 0;
+    friend bool operator==(const Box&, const Box&) = default;
+  };
+  static Box BoxOf(const Session& session, const Act& act);
+  std::optional<Box> edited_;
+  /// The act that was just done goes on with that edit.
+  bool goesOn_ = false;
+  /// The box that the act goes to, taken before it is done.
+  Box box_;
+};
+
+}  // namespace ng
