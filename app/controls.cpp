@@ -1,8 +1,10 @@
 #include "app/controls.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
-#include "app/main_form.h"
+#include "app/session.h"
 #include "base/number_text.h"
 #include "base/text.h"
 
@@ -68,7 +70,7 @@ void VisitCombatPage(const MainForm& form, ControlVisitor& visitor) {
   VisitTexts(visitor, "lblPRng", weapons.lblPRng);
   VisitTexts(visitor, "lblSRng", weapons.lblSRng);
   visitor.Choice({"optRangeSel", 0}, weapons.optRangeSel[0]);
-  visitor.Choice({"optRangeSel", 1}, weapons.optRangeSel[1]);
+  visitor.Choice({"optRangeSel", 1, static_cast<int>(kRanges)}, weapons.optRangeSel[1]);
   VisitBound(visitor, weapons);
   visitor.Text({"lblWPrim"}, weapons.lblWPrim);
   visitor.Text({"lblWSec"}, weapons.lblWSec);
@@ -127,9 +129,41 @@ void VisitSheet(const MainForm& form, ControlVisitor& visitor) {
   visitor.Text({"txtNoteFileName"}, form.txtNoteFileName);
 }
 
+/// The lines selected in the lists of the pages.
+void VisitSelections(const InfoForm& info, ControlVisitor& visitor) {
+  static constexpr std::pair<const char*, SheetList> kLists[] = {
+      {"lstWeapon", SheetList::Weapon},     {"lstArmor", SheetList::Armor},
+      {"lstGear", SheetList::Gear},         {"lstActive", SheetList::Active},
+      {"lstOther", SheetList::Other},       {"lstMagic", SheetList::Magic},
+      {"lstEdges", SheetList::Edges},       {"lstAugments", SheetList::Augments},
+      {"lstContacts", SheetList::Contacts}, {"lstRace", SheetList::Race}};
+  static_assert(std::size(kLists) == kSheetLists);
+  for (const auto& [name, list] : kLists) visitor.Choice({name}, info.Marked(list));
+}
+
+void VisitStatusBar(const Session& session, ControlVisitor& visitor) {
+  const MainForm& form = session.main;
+  const int combatants = form.GridX.RowCount();
+  const Integer pass = form.fight.PhaseCnt;
+  visitor.Text({"lblStatus"}, form.statusMessage);
+  visitor.Text({"lblLogFailure"}, form.gmLog.lblLogFailure());
+  visitor.Text({"lblJournal"}, form.lblJournal);
+  visitor.Text({"mnuEditUndo"}, session.history.mnuEditUndo);
+  visitor.Text({"mnuEditRedo"}, session.history.mnuEditRedo);
+  visitor.Text({"lblCombatants"},
+               PlainText(combatants) + (combatants == 1 ? " combatant" : " combatants"));
+  visitor.Text({"lblCombatTurn"}, "Combat turn " + PlainText(form.fight.RoundCount));
+  visitor.Text({"lblPass"}, pass > kLastPass ? "Turn over" : "Pass " + PlainText(pass));
+  visitor.Text({"lblRoller"},
+               session.environment.settings.DisableNGDR ? "Roller off" : "Roller on");
+  visitor.Check({"statusBar"}, form.statusBarVisible);
+}
+
 /// Who is displayed, and whose test and dice they are when they are somebody else's.
 std::string WhoRolls(const MainForm& form) {
-  const auto nameOf = [&form](Slot slot) { return form.fight.RecordOf(slot).Name; };
+  const auto nameOf = [&form](Slot slot) -> const std::string& {
+    return form.fight.RecordOf(slot).Name;
+  };
   const Slot shown = form.fight.CurrentPCpointer;
   const Slot tested = form.ngdr.TestOwner();
   const Slot paying = form.ngdr.PoolOwner();
@@ -144,7 +178,8 @@ std::string WhoRolls(const MainForm& form) {
 
 }  // namespace
 
-void VisitRollerControls(const MainForm& form, ControlVisitor& visitor) {
+void VisitRollerControls(const Session& session, ControlVisitor& visitor) {
+  const MainForm& form = session.main;
   const DiceRoller& roller = form.ngdr;
   const PlayerRecord& record = form.fight.RecordOf(roller.Tester());
   visitor.Text({"lblName"}, WhoRolls(form));
@@ -177,8 +212,9 @@ void VisitRollerControls(const MainForm& form, ControlVisitor& visitor) {
   visitor.Check({"lblRuleOfOne"}, roller.lblRuleOfOne);
 }
 
-void VisitControls(const MainForm& form, ControlVisitor& visitor) {
-  visitor.Grid({"GridX"}, form.GridX);
+void VisitControls(const Session& session, ControlVisitor& visitor) {
+  const MainForm& form = session.main;
+  visitor.Grid({"GridX"}, form.GridX, form.ShownRow());
   VisitHeader(form, visitor);
   VisitCombatPage(form, visitor);
   VisitSkillsAndPools(form, visitor);
@@ -188,9 +224,8 @@ void VisitControls(const MainForm& form, ControlVisitor& visitor) {
   visitor.Check({"mnuPInactive"}, form.actions.inactiveChecked);
   visitor.Check({"mnuViewStatusBar"}, form.statusBarVisible);
   visitor.Check({"mnuViewDark"}, form.darkColours);
-  visitor.Text({"lblStatus"}, form.statusMessage);
-  visitor.Text({"lblLogFailure"}, form.gmLog.lblLogFailure());
-  visitor.Text({"lblJournal"}, form.lblJournal);
+  VisitSelections(form.itemInfo, visitor);
+  VisitStatusBar(session, visitor);
 }
 
 }  // namespace ng

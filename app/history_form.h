@@ -18,6 +18,10 @@ struct HistoryForm {
   /// what was undone has "Taken back" before its words.
   std::vector<std::string> lstLines;
   int lstLinesIndex = -1;
+
+  /// What the entries of the menu say of the next step: "Undo: Brand, physical deadly wound".
+  std::string mnuEditUndo = "Nothing to undo";
+  std::string mnuEditRedo = "Nothing to redo";
 };
 
 /// The dialog of recent fights, frmRecent. The desk fills it.

@@ -28,6 +28,7 @@ constexpr ButtonKey kMainKeys[] = {
     {"Shift+F3", "cmdShots3_1", "Secondary weapon: fire three rounds"},
     {"Shift+F4", "cmdShotsFA_1", "Secondary weapon: full auto, asks for the rounds"},
     {"Shift+F6", "cmdShotsZ_1", "Secondary weapon: reload"},
+    {"Ctrl+Y", "Redo", "Do again what was taken back"},
     {"Alt+Left", "cmdCPnegative", "Combat pool: take a die"},
     {"Alt+Right", "cmdCPplus", "Combat pool: add a die"}};
 

@@ -36,6 +36,12 @@ bool IsAbout(const HistoryLine& line, const std::string& name) {
   return line.who == name || Contains(line.changes, name);
 }
 
+/// "Undo: Brand, physical deadly wound", "Nothing to undo".
+std::string Named(const std::string& what, const std::string& step) {
+  return step.empty() ? "Nothing to " + std::string(1, AsciiLower(what[0])) + what.substr(1)
+                      : what + ": " + step;
+}
+
 std::string LeftHow(const KeptFight& fight, bool here) {
   if (here) return "this fight";
   if (fight.held) return "open elsewhere";
@@ -99,6 +105,9 @@ void DeskForms::Begin() {
 }
 
 void DeskForms::Follow() {
+  HistoryForm& form = desk_.session().history;
+  form.mnuEditUndo = Named("Undo", desk_.steps().UndoName());
+  form.mnuEditRedo = Named("Redo", desk_.steps().RedoName());
   if (!desk_.session().history.open) return;
   history_.Follow(desk_.head(), desk_.timeline(), desk_.steps());
   ListHistory();

@@ -9,10 +9,14 @@
 namespace ng {
 
 SampleProgram::SampleProgram(const Theme& theme)
-    : session({files_, uniform_, prompts_, userSettings_, {{}, PathText(folder_.path())}, {}}) {
+    : journals_(folder_.filePath(QStringLiteral("journals")).toStdU16String()),
+      desk({{files_, prompts_, userSettings_},
+            clock_,
+            journals_,
+            {NG_VERSION, 20461, {{}, PathText(folder_.path())}}}) {
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder_.path());
-  prompts_.Attach(session);
-  if (theme.dark) session.Do({"mnuViewDark"});
+  prompts_.Attach(session, door_);
+  if (theme.dark) desk.Do({"mnuViewDark"});
   ApplyTheme(*qApp, theme);
 }
 
@@ -22,11 +26,11 @@ void SampleProgram::Run(Start start) {
   if (start == Start::Later) settings += "NG3Dir=" + sample + "/characters\r\n";
   settings += "DatDir=" + sample + "/DATA\r\n";
   files_.Replace(PathText(OwnFile("tracker.ini")), settings);
-  if (!Main(session, *this)) qFatal("the program does not start");
+  if (!desk.Start(*this)) qFatal("the program does not start");
 }
 
 void SampleProgram::LoadMain() {
-  window = std::make_unique<MainWindow>(session);
+  window = std::make_unique<MainWindow>(session, door_);
   prompts_.SetMainWindow(*window, [this] { window->PaintAll(); });
 }
 

@@ -4,8 +4,10 @@
 #include <memory>
 
 #include "app/startup.h"
-#include "base/seeded_uniform.h"
+#include "journal/desk.h"
+#include "platform/clock.h"
 #include "platform/files.h"
+#include "platform/journals.h"
 #include "platform/user_settings.h"
 #include "ui/dialogs/prompts.h"
 #include "ui/main/main_window.h"
@@ -22,7 +24,8 @@ class SampleProgram : private StartupWindows {
   QTemporaryDir folder_;
   NativeFiles files_;
   NativeUserSettings userSettings_;
-  SeededUniform uniform_{20461};
+  NativeClock clock_;
+  NativeJournals journals_;
   QtPrompts prompts_;
 
  public:
@@ -35,11 +38,14 @@ class SampleProgram : private StartupWindows {
   /// The native path of a file in the program's directory.
   QString OwnFile(const char* name) const { return folder_.filePath(QString::fromLatin1(name)); }
 
-  Session session;
+  Desk desk;
+  Session& session = desk.session();
   /// Null until the program runs.
   std::unique_ptr<MainWindow> window;
 
  private:
+  const Perform door_ = [this](const Act& act) { desk.Do(act); };
+
   void ShowSplash() override {}
   void LoadMain() override;
   void UnloadSplash() override {}

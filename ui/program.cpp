@@ -2,12 +2,16 @@
 
 #include <QApplication>
 #include <clocale>
+#include <exception>
 #include <memory>
 #include <utility>
 
 #include "app/startup.h"
-#include "base/seeded_uniform.h"
+#include "journal/desk.h"
+#include "platform/clock.h"
 #include "platform/files.h"
+#include "platform/journals.h"
+#include "platform/native_path.h"
 #include "platform/program_directory.h"
 #include "platform/seed.h"
 #include "platform/user_settings.h"
@@ -24,8 +28,9 @@ namespace {
 
 class RealWindows : public StartupWindows {
  public:
-  RealWindows(Session& session, QtPrompts& prompts, std::function<void(QWidget&)> loaded)
-      : session_(session), prompts_(prompts), loaded_(std::move(loaded)) {}
+  RealWindows(const Session& session, Perform door, QtPrompts& prompts,
+              std::function<void(QWidget&)> loaded)
+      : session_(session), door_(std::move(door)), prompts_(prompts), loaded_(std::move(loaded)) {}
 
   void ShowSplash() override {
     splash_ = std::make_unique<Splash>();
@@ -35,7 +40,7 @@ class RealWindows : public StartupWindows {
   }
 
   void LoadMain() override {
-    main_ = std::make_unique<MainWindow>(session_);
+    main_ = std::make_unique<MainWindow>(session_, door_);
     prompts_.SetMainWindow(*main_, [this] { main_->PaintAll(); });
     if (loaded_) loaded_(*main_);
   }
@@ -44,6 +49,8 @@ class RealWindows : public StartupWindows {
 
   void ShowMain() override { main_->show(); }
 
+  void Paint() { main_->PaintAll(); }
+
   /// Opens the files named at the start.
   void Open(const QStringList& paths) {
     const std::string files = FilesToOpen(paths);
@@ -51,7 +58,8 @@ class RealWindows : public StartupWindows {
   }
 
  private:
-  Session& session_;
+  const Session& session_;
+  Perform door_;
   QtPrompts& prompts_;
   std::function<void(QWidget&)> loaded_;
   std::unique_ptr<Splash> splash_;
@@ -67,14 +75,26 @@ ProgramLocation Location() {
 int Run(QApplication& application, std::function<void(QWidget&)> loaded) {
   NativeFiles files;
   NativeUserSettings userSettings;
-  SeededUniform uniform(RandomSeed());
+  NativeClock clock;
   QtPrompts prompts;
-  Session session(Environment{files, uniform, prompts, userSettings, Location(), {}});
-  prompts.Attach(session);
-  if (DesktopIsDark(application)) session.Do({"mnuViewDark"});
-  ApplyTheme(application, session.main.darkColours ? Theme::Dark() : Theme::Light());
-  RealWindows windows(session, prompts, std::move(loaded));
-  if (!Main(session, windows)) return 1;
+  const ProgramLocation location = Location();
+  NativeJournals journals(NativePath(location.directory + "\\journals"));
+  Desk desk(
+      {{files, prompts, userSettings}, clock, journals, {NG_VERSION, RandomSeed(), location}});
+  const Perform door = [&desk](const Act& act) { desk.Do(act); };
+  prompts.Attach(desk.session(), door);
+  if (DesktopIsDark(application)) desk.Do({"mnuViewDark"});
+  ApplyTheme(application, desk.session().main.darkColours ? Theme::Dark() : Theme::Light());
+  RealWindows windows(desk.session(), door, prompts, std::move(loaded));
+  try {
+    if (!desk.Start(windows)) return 1;
+  } catch (const std::exception& error) {
+    windows.UnloadSplash();
+    prompts.Message(error.what());
+    return 1;
+  }
+  desk.OfferUnclosed();
+  windows.Paint();
   windows.Open(QCoreApplication::arguments().mid(2));
   return QApplication::exec();
 }

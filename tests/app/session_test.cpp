@@ -69,6 +69,19 @@ TEST(Session, TheWindowComesBackToItsPlace) {
   for (const auto& [name, edge] : kEdges) EXPECT_EQ(program.main.layout.*edge, twips += 100);
 }
 
+TEST(Session, TheStatusBarCountsPassesToTheTenth) {
+  TestProgram program;
+  const auto pass = [&program](int number) {
+    program.fight.PhaseCnt = number;
+    for (const auto& [name, value] : TakeSnapshot(program.session)) {
+      if (name == "lblPass") return value;
+    }
+    return std::string();
+  };
+  EXPECT_EQ(pass(10), "\"Pass 10\"");
+  EXPECT_EQ(pass(11), "\"Turn over\"");
+}
+
 /// A state file may hold any number. Whatever the windows show, showing it ends nothing.
 TEST(Session, EveryNumberCanBeShown) {
   for (const int number : {-32768, -1, 4, 100, 101, 500, 32767}) {

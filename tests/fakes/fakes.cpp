@@ -139,9 +139,13 @@ bool ScriptedPrompts::AskToTakeUp(std::string_view question) {
 void ScriptedPrompts::ShowModal(ModalForm form) {
   constexpr std::array<const char*, 5> kNames = {"frmOptions", "frmLoader", "frmSelSkillLevel",
                                                  "frmAbout", "frmRecent"};
-  const Answer answer =
-      TakeAnswer(std::string("modal ") + kNames.at(static_cast<std::size_t>(form)));
-  for (const Act& act : answer.acts) perform(act);
+  const std::string name = kNames.at(static_cast<std::size_t>(form));
+  const Answer answer = TakeAnswer("modal " + name);
+  if (look) look(name);
+  for (const Act& act : answer.acts) {
+    perform(act);
+    if (look) look(name);
+  }
 }
 
 int FakeUserSettings::Get(const std::string& section, const std::string& key, int defaultValue) {

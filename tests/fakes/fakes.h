@@ -87,6 +87,9 @@ class ScriptedPrompts : public Prompts, public Script {
   std::vector<std::string> log;
   /// The door that the acts of a modal form go through.
   std::function<void(const Act&)> perform;
+  /// Called, if there is one, with the name of a modal form that is shown, and after each act in
+  /// it.
+  std::function<void(const std::string&)> look;
 
   /// The record since the last call.
   std::vector<std::string> TakeLog();

@@ -99,12 +99,25 @@ class Player {
     if (!prompts_.answers.empty()) throw std::runtime_error("an answer was left over");
   }
 
+  /// What has changed in a modal form goes among what was shown and asked.
+  void LookAt(const std::string& form) {
+    Snapshot now = TakeSnapshot(*session_);
+    for (std::string& difference : Differences(looked_, now)) {
+      if (difference.starts_with(form)) prompts_.log.push_back(std::move(difference));
+    }
+    looked_ = std::move(now);
+  }
+
   void Start() {
     if (!uniform_) throw std::runtime_error("no seed is given");
     session_ = std::make_unique<Session>(
         Environment{files_, *uniform_, prompts_, userSettings_, {{}, "C:\\tracker"}, {}});
     witness_.Begin(*session_);
-    prompts_.perform = [this](const Act& act) { session_->Do(act); };
+    prompts_.perform = [this](const Act& act) {
+      prompts_.log.push_back(">> " + ActText(act));
+      session_->Do(act);
+    };
+    prompts_.look = [this](const std::string& form) { LookAt(form); };
     NoWindows windows;
     if (!Main(*session_, windows)) throw std::runtime_error("the program does not start");
   }
@@ -118,6 +131,8 @@ class Player {
   FakeUserSettings userSettings_;
   std::unique_ptr<SeededUniform> uniform_;
   std::unique_ptr<Session> session_;
+  /// What a modal form was last seen with.
+  Snapshot looked_;
 };
 
 /// Plays a journal that a running program has kept, as far as it was done.

@@ -1,15 +1,19 @@
 #include "golden/snapshot.h"
 
 #include <map>
+#include <string_view>
 #include <utility>
 
 #include "app/controls.h"
+#include "app/form_windows.h"
 #include "base/number_text.h"
 #include "base/text.h"
 #include "fakes/fakes.h"
 
 namespace ng {
 namespace {
+
+constexpr const char* kClosed = "closed";
 
 class SnapshotVisitor : public ControlVisitor {
  public:
@@ -40,7 +44,7 @@ class SnapshotVisitor : public ControlVisitor {
   void Turn(ControlName control, TurnState state) override {
     Add(Name(control), Quoted(LookOf(state).badge));
   }
-  void Grid(ControlName control, const InitiativeGrid& grid) override {
+  void Grid(ControlName control, const InitiativeGrid& grid, int shownRow) override {
     for (int row = 1; row <= grid.RowCount(); ++row) {
       const InitiativeGrid::Row& cells = grid.RowAt(row);
       std::string value;
@@ -50,6 +54,7 @@ class SnapshotVisitor : public ControlVisitor {
     }
     Add(Name(control) + " cell",
         std::to_string(grid.CurrentRow()) + " " + std::to_string(grid.CurrentColumn()));
+    Add(Name(control) + " shown", std::to_string(shownRow));
   }
 
  private:
@@ -85,20 +90,31 @@ void AddFight(const Fight& fight, Snapshot& snapshot) {
   }
 }
 
+void AddWindows(const Session& session, Snapshot& snapshot) {
+  for (const FormWindow& window : FormWindows()) {
+    const bool open = window.open(session);
+    const bool main = *window.prefix == '\0';
+    if (!main) snapshot.emplace_back(window.name, open ? "open" : kClosed);
+    // The dice roller is there from the start, hidden or not.
+    const bool roller = std::string_view(window.name) == "ngdr";
+    if (!open && !roller) continue;
+    SnapshotVisitor visitor(snapshot, window.prefix);
+    window.visit(session, visitor);
+  }
+}
+
 }  // namespace
 
 Snapshot TakeSnapshot(const Session& session) {
   Snapshot snapshot;
   AddFight(session.main.fight, snapshot);
-  SnapshotVisitor window(snapshot, "");
-  VisitControls(session.main, window);
-  SnapshotVisitor roller(snapshot, "ngdr.");
-  VisitRollerControls(session.main, roller);
+  AddWindows(session, snapshot);
   return snapshot;
 }
 
 std::vector<std::string> Differences(const Snapshot& before, const Snapshot& after) {
   std::map<std::string, std::string> old(before.begin(), before.end());
+  const std::map<std::string, std::string> now(after.begin(), after.end());
   std::vector<std::string> lines;
   for (const auto& [name, value] : after) {
     const auto found = old.find(name);
@@ -106,7 +122,10 @@ std::vector<std::string> Differences(const Snapshot& before, const Snapshot& aft
     if (found != old.end()) old.erase(found);
   }
   for (const auto& [name, value] : before) {
-    if (old.count(name) > 0) lines.push_back(name + " gone");
+    if (old.count(name) == 0) continue;
+    // What was in a window that was closed went with it.
+    const auto window = now.find(name.substr(0, name.find('.')));
+    if (window == now.end() || window->second != kClosed) lines.push_back(name + " gone");
   }
   return lines;
 }

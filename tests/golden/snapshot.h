@@ -8,7 +8,8 @@
 
 namespace ng {
 
-/// Every value of the fight and every control of the window, each under its own name.
+/// Every value of the fight, every control of the windows that are open and of the dice roller,
+/// each under its own name, and which windows are open.
 using Snapshot = std::vector<std::pair<std::string, std::string>>;
 
 Snapshot TakeSnapshot(const Session& session);

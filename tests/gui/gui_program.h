@@ -5,6 +5,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
@@ -16,8 +17,9 @@
 #include <string>
 
 #include "app/startup.h"
-#include "base/seeded_uniform.h"
+#include "fakes/fake_journals.h"
 #include "fakes/fakes.h"
+#include "journal/desk.h"
 #include "ui/dialogs/prompts.h"
 #include "ui/look/row_colour.h"
 #include "ui/look/theme.h"
@@ -61,15 +63,26 @@ int RunGuiTest(int argc, char** argv) {
 class GuiProgram : private StartupWindows {
  public:
   FakeFiles files;
-  SeededUniform uniform{20461};
   QtPrompts prompts;
   FakeUserSettings userSettings;
-  Session session{{files, uniform, prompts, userSettings, {{}, "C:\\tracker"}, {}}};
+  FakeClock clock;
+  FakeJournals journals;
+  Desk desk{
+      {{files, prompts, userSettings}, clock, journals, {"test", 20461, {{}, "C:\\tracker"}}}};
+  Session& session = desk.session();
   Fight& fight = session.main.fight;
+  /// What came to the door, which lets nothing in while nothing is performed.
+  std::vector<Act> acts;
+  bool performing = true;
+  const Perform door = [this](const Act& act) {
+    acts.push_back(act);
+    if (performing) desk.Do(act);
+  };
   std::unique_ptr<MainWindow> window;
 
   GuiProgram() {
-    prompts.Attach(session);
+    QTest::failOnWarning(QRegularExpression(QStringLiteral("cannot be painted")));
+    prompts.Attach(session, door);
     QObject::connect(&messageWatch_, &QTimer::timeout, [] {
       const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
       if (box != nullptr) qFatal("unexpected message: %s", qPrintable(box->text()));
@@ -87,7 +100,7 @@ class GuiProgram : private StartupWindows {
 
   void Start() {
     ApplyTheme(*qApp, Theme::Light());
-    if (!Main(session, *this)) qFatal("the program does not start");
+    if (!desk.Start(*this)) qFatal("the program does not start");
     TakeKeys();
   }
 
@@ -171,7 +184,7 @@ class GuiProgram : private StartupWindows {
 
   void ShowSplash() override {}
   void LoadMain() override {
-    window = std::make_unique<MainWindow>(session);
+    window = std::make_unique<MainWindow>(session, door);
     prompts.SetMainWindow(*window, [this] { window->PaintAll(); });
   }
   void UnloadSplash() override {}

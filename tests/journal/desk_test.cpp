@@ -19,8 +19,8 @@ using Kind = Answer::Kind;
 Snapshot Shown(const Desk& desk) {
   Snapshot snapshot = TakeSnapshot(desk.session());
   std::erase_if(snapshot, [](const auto& value) {
-    return value.first == "mnuViewStatusBar" || value.first == "mnuViewDark" ||
-           value.first == "lblJournal";
+    return value.first == "mnuViewStatusBar" || value.first == "statusBar" ||
+           value.first == "mnuViewDark" || value.first == "lblJournal";
   });
   return snapshot;
 }

@@ -63,8 +63,8 @@ struct Fight {
   /// The grid row that was green last and is painted white again at the end of the turn.
   OrderPosition lastGreen;
 
-  /// The record of a slot; record 0, nobody's, for a number outside the table, which a damaged state
-  /// file may hold. For what is shown: nothing that a window shows ends a command.
+  /// The record of a slot; record 0, nobody's, for a number outside the table, which a damaged
+  /// state file may hold. For what is shown: nothing that a window shows ends a command.
   const PlayerRecord& RecordOf(Slot slot) const;
   /// The number of slots whose `Name` is not empty.
   Integer CountPlayers() const;

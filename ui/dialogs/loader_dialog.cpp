@@ -6,7 +6,6 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTreeView>
-#include <utility>
 
 #include "app/session.h"
 #include "ui/widgets/directory_picker.h"
@@ -30,19 +29,17 @@ QLabel* LabelFor(QWidget* buddy, const char* label, char mnemonic) {
 
 }  // namespace
 
-LoaderDialog::LoaderDialog(Session& session, QWidget* parent)
-    : QDialog(parent),
-      session_(session),
+LoaderDialog::LoaderDialog(const Session& session, const Perform& door, QWidget* parent)
+    : FormDialog("frmLoader", QString::fromLatin1(LoaderForm::kCaption), session, door, parent),
       directories_(
           new DirectoryPicker(QStringLiteral("Drive1"), QStringLiteral("DirListBox"), this)),
       files_(new QListWidget(this)),
       unlisted_(new QLabel(this)) {
-  setObjectName(QStringLiteral("frmLoader"));
-  setWindowTitle(QString::fromLatin1(LoaderForm::kCaption));
   resize(596, 398);
   files_->setObjectName(QStringLiteral("filesXML"));
   files_->setAccessibleName("Files");
   unlisted_->setObjectName(QStringLiteral("lblUnlisted"));
+  unlisted_->setProperty("hidesEmpty", true);
   files_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   BuildLayout();
   Connect();
@@ -97,59 +94,23 @@ void LoaderDialog::BuildLayout() {
 }
 
 void LoaderDialog::Connect() {
-  connect(directories_, &DirectoryPicker::DriveChosen, this,
-          [this](const QString& text) { Do("frmLoader.Drive1", 0, FromQString(text)); });
-  connect(directories_, &DirectoryPicker::DirectoryChosen, this,
-          [this](const QString& directory) { Do("frmLoader.DirListBox", 0, PathText(directory)); });
+  connect(directories_, &DirectoryPicker::DirectoryChosen, this, [this](const QString& directory) {
+    Do({"frmLoader.DirListBox", 0, PathText(directory)});
+  });
   connect(files_, &QListWidget::itemSelectionChanged, this, &LoaderDialog::TakeSelection);
-  connect(files_, &QListWidget::itemDoubleClicked, this, [this] { Do("frmLoader.cmdLoad"); });
-  connect(findChild<QPushButton*>(QStringLiteral("cmdLoad")), &QPushButton::clicked, this,
-          [this] { Do("frmLoader.cmdLoad"); });
-  connect(findChild<QPushButton*>(QStringLiteral("cmdCancel")), &QPushButton::clicked, this,
-          &LoaderDialog::reject);
-}
-
-void LoaderDialog::reject() { Do("frmLoader.cmdCancel"); }
-
-void LoaderDialog::Do(const char* control, int index, const std::string& text) {
-  session_.Do({control, index, text});
-  Paint();
-  if (!session_.loader.open) done(session_.loader.selectionList.empty() ? Rejected : Accepted);
+  connect(files_, &QListWidget::itemDoubleClicked, this, [this] { Do({"frmLoader.cmdLoad"}); });
 }
 
 void LoaderDialog::TakeSelection() {
-  if (painting_) return;
+  if (Painting()) return;
   // The form's list does not change in between, so the rows stay what they are.
+  const std::vector<LoaderForm::File>& files = Forms().loader.filesXML;
   for (int i = 0; i < files_->count(); ++i) {
     const bool selected = files_->item(i)->isSelected();
-    if (session_.loader.filesXML[static_cast<std::size_t>(i)].selected == selected) continue;
-    session_.Do({selected ? "frmLoader.filesXML_Select" : "frmLoader.filesXML_Unselect", i, {}});
+    if (files[static_cast<std::size_t>(i)].selected == selected) continue;
+    Send({selected ? "frmLoader.filesXML_Select" : "frmLoader.filesXML_Unselect", i, {}});
   }
   Paint();
-}
-
-void LoaderDialog::Paint() {
-  directories_->ShowDirectory(session_.loader.DirListBox);
-  unlisted_->setText(ToQString(session_.loader.lblUnlisted));
-  unlisted_->setVisible(!session_.loader.lblUnlisted.empty());
-  PaintFiles();
-}
-
-void LoaderDialog::PaintFiles() {
-  const bool outer = std::exchange(painting_, true);
-  QStringList names;
-  for (const LoaderForm::File& file : session_.loader.filesXML) names += ToQString(file.name);
-  QStringList shown;
-  for (int i = 0; i < files_->count(); ++i) shown += files_->item(i)->text();
-  if (shown != names) {
-    files_->clear();
-    files_->addItems(names);
-  }
-  for (int i = 0; i < files_->count(); ++i) {
-    const bool selected = session_.loader.filesXML[static_cast<std::size_t>(i)].selected;
-    if (files_->item(i)->isSelected() != selected) files_->item(i)->setSelected(selected);
-  }
-  painting_ = outer;
 }
 
 }  // namespace ng

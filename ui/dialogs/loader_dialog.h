@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDialog>
+#include "ui/dialogs/form_dialog.h"
 
 class QLabel;
 class QListWidget;
@@ -8,31 +8,22 @@ class QListWidget;
 namespace ng {
 
 class DirectoryPicker;
-class Session;
 
 /// The dialog in which character files are picked: the window of the loader form, frmLoader.
-class LoaderDialog : public QDialog {
+class LoaderDialog : public FormDialog {
   Q_OBJECT
 
  public:
-  LoaderDialog(Session& session, QWidget* parent);
-
-  /// Closing the dialog by its frame cancels.
-  void reject() override;
+  LoaderDialog(const Session& session, const Perform& door, QWidget* parent);
 
  private:
   void BuildLayout();
   void Connect();
-  void Do(const char* control, int index = 0, const std::string& text = {});
-  void Paint();
-  void PaintFiles();
   void TakeSelection();
 
-  Session& session_;
   DirectoryPicker* directories_;
   QListWidget* files_;
   QLabel* unlisted_;
-  bool painting_ = false;
 };
 
 }  // namespace ng

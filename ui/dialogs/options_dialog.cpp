@@ -15,7 +15,6 @@
 #include "ui/look/theme.h"
 #include "ui/widgets/directory_picker.h"
 #include "ui/wiring/path_text.h"
-#include "ui/wiring/text.h"
 
 namespace ng {
 namespace {
@@ -44,10 +43,9 @@ QString TimeText(OptionsDialog::Occasion occasion, bool fileGiven) {
 
 }  // namespace
 
-OptionsDialog::OptionsDialog(Session& session, Occasion occasion, QWidget* parent)
-    : QDialog(parent), session_(session) {
-  setObjectName(QStringLiteral("frmOptions"));
-  setWindowTitle("Options");
+OptionsDialog::OptionsDialog(const Session& session, const Perform& door, Occasion occasion,
+                             QWidget* parent)
+    : FormDialog("frmOptions", "Options", session, door, parent) {
   resize(720, 470);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(12, 10, 12, 12);
@@ -60,8 +58,8 @@ OptionsDialog::OptionsDialog(Session& session, Occasion occasion, QWidget* paren
   }
   auto* groups = new QHBoxLayout;
   groups->setSpacing(8);
-  characters_ = AddGroup(*groups, "Character directory", "NG3");
-  data_ = AddGroup(*groups, "DATA directory", "Dat");
+  AddGroup(*groups, "Character directory", "NG3");
+  AddGroup(*groups, "DATA directory", "Dat");
   column->addLayout(groups, 1);
   column->addWidget(BuildSwitches());
   auto* time =
@@ -73,8 +71,7 @@ OptionsDialog::OptionsDialog(Session& session, Occasion occasion, QWidget* paren
   Paint();
 }
 
-OptionsDialog::Group OptionsDialog::AddGroup(QBoxLayout& row, const QString& title,
-                                             const char* word) {
+void OptionsDialog::AddGroup(QBoxLayout& row, const QString& title, const char* word) {
   const QString suffix = QString::fromLatin1(word);
   auto* box = new QGroupBox(title, this);
   auto* picker =
@@ -86,6 +83,7 @@ OptionsDialog::Group OptionsDialog::AddGroup(QBoxLayout& row, const QString& tit
   path->setReadOnly(true);
   path->setFocusPolicy(Qt::ClickFocus);
   path->setFont(InterfaceFont(10, true));
+  path->setProperty("emptyText", QString("\u2013 none \u2013"));
   auto* column = new QVBoxLayout(box);
   column->setContentsMargins(10, 12, 10, 10);
   column->setSpacing(6);
@@ -104,17 +102,17 @@ OptionsDialog::Group OptionsDialog::AddGroup(QBoxLayout& row, const QString& tit
   row.addWidget(box, 1);
 
   const std::string control = "frmOptions.dir" + suffix.toStdString();
-  connect(picker, &DirectoryPicker::DriveChosen, this,
-          [this, control](const QString&, const QString& root) { Do(control, PathText(root)); });
-  connect(picker, &DirectoryPicker::DirectoryChosen, this,
-          [this, control](const QString& directory) { Do(control, PathText(directory)); });
-  connect(browse, &QPushButton::clicked, this, [this, control, title, path] {
+  const auto choose = [this, control](const QString& directory) {
+    Do({control, 0, PathText(directory)});
+  };
+  connect(picker, &DirectoryPicker::DriveChosen, this, choose);
+  connect(picker, &DirectoryPicker::DirectoryChosen, this, choose);
+  connect(browse, &QPushButton::clicked, this, [this, choose, title, path] {
     const QString shown = path->text();
     const QString from = QFileInfo(shown).isDir() ? shown : QDir::homePath();
     const QString directory = QFileDialog::getExistingDirectory(this, title, from);
-    if (!directory.isEmpty()) Do(control, PathText(directory));
+    if (!directory.isEmpty()) choose(directory);
   });
-  return {picker, path};
 }
 
 QWidget* OptionsDialog::BuildSwitches() {
@@ -122,16 +120,13 @@ QWidget* OptionsDialog::BuildSwitches() {
   auto* column = new QVBoxLayout(box);
   column->setContentsMargins(10, 10, 10, 8);
   column->setSpacing(4);
-  cloneInit_ = AddSwitch(*column, "chkCloneInit", "Copies take their original's initiative &roll");
-  disableRoller_ = AddSwitch(*column, "chkDisableNGDR", "Do not &use the dice roller");
-  return box;
-}
-
-QCheckBox* OptionsDialog::AddSwitch(QBoxLayout& column, const char* name, const QString& text) {
-  auto* box = new QCheckBox(text, this);
-  box->setObjectName(QString::fromLatin1(name));
-  column.addWidget(box);
-  connect(box, &QCheckBox::clicked, this, [this, name] { Do(std::string("frmOptions.") + name); });
+  const auto add = [box, column](const char* name, const QString& text) {
+    auto* check = new QCheckBox(text, box);
+    check->setObjectName(QString::fromLatin1(name));
+    column->addWidget(check);
+  };
+  add("chkCloneInit", "Copies take their original's initiative &roll");
+  add("chkDisableNGDR", "Do not &use the dice roller");
   return box;
 }
 
@@ -139,11 +134,9 @@ QBoxLayout* OptionsDialog::BuildButtons() {
   auto* ok = new QPushButton("OK", this);
   ok->setObjectName(QStringLiteral("cmdOK"));
   ok->setDefault(true);
-  connect(ok, &QPushButton::clicked, this, [this] { Do("frmOptions.cmdOK"); });
   auto* cancel = new QPushButton("Cancel", this);
   cancel->setObjectName(QStringLiteral("cmdCancel"));
   cancel->setAutoDefault(false);
-  connect(cancel, &QPushButton::clicked, this, &OptionsDialog::reject);
   auto* row = new QHBoxLayout;
   row->setSpacing(6);
   row->addStretch();
@@ -152,31 +145,6 @@ QBoxLayout* OptionsDialog::BuildButtons() {
     row->addWidget(button);
   }
   return row;
-}
-
-void OptionsDialog::reject() { Do("frmOptions.cmdCancel"); }
-
-void OptionsDialog::Do(const std::string& control, const std::string& text) {
-  session_.Do({control, 0, text});
-  Paint();
-  if (!session_.options.open) done(Accepted);
-}
-
-void OptionsDialog::Paint() {
-  const OptionsForm& form = session_.options;
-  PaintGroup(characters_, form.dirNG3);
-  PaintGroup(data_, form.dirDat);
-  cloneInit_->setChecked(form.chkCloneInit);
-  disableRoller_->setChecked(form.chkDisableNGDR);
-}
-
-void OptionsDialog::PaintGroup(const Group& group, const std::string& directory) {
-  group.picker->ShowDirectory(directory);
-  const QString shown = directory.empty() ? "\u2013 none \u2013" : ToQString(directory);
-  if (group.path->text() == shown) return;
-  group.path->setText(shown);
-  // The end of a long path says more than its beginning.
-  group.path->end(false);
 }
 
 }  // namespace ng

@@ -6,12 +6,13 @@
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QMessageBox>
+#include <QPushButton>
 
-#include "app/session.h"
 #include "ui/dialogs/about_dialog.h"
 #include "ui/dialogs/input_dialog.h"
 #include "ui/dialogs/loader_dialog.h"
 #include "ui/dialogs/options_dialog.h"
+#include "ui/dialogs/recent_dialog.h"
 #include "ui/dialogs/skill_level_dialog.h"
 #include "ui/wiring/path_text.h"
 #include "ui/wiring/text.h"
@@ -106,7 +107,7 @@ void QtPrompts::Message(std::string_view text) {
 std::string QtPrompts::Input(std::string_view prompt) {
   PaintMainWindow();
   const Perform perform = [this](const Act& act) {
-    session_->Do(act);
+    door_(act);
     PaintMainWindow();
   };
   InputDialog dialog(Title(), ToQString(prompt), perform, Parent());
@@ -131,21 +132,37 @@ SaveChoice QtPrompts::AskToSave(std::string_view question) {
   return answer == QMessageBox::Discard ? SaveChoice::Discard : SaveChoice::Cancel;
 }
 
+bool QtPrompts::AskToTakeUp(std::string_view question) {
+  QMessageBox box(QMessageBox::NoIcon, Title(), ToQString(question), QMessageBox::NoButton,
+                  Parent());
+  box.setTextFormat(Qt::PlainText);
+  box.setInformativeText("After No it stays under File \u203A Recent Fights.");
+  QPushButton* yes = box.addButton("&Take it up", QMessageBox::AcceptRole);
+  QPushButton* no = box.addButton("&No", QMessageBox::RejectRole);
+  box.setDefaultButton(yes);
+  box.setEscapeButton(no);
+  box.exec();
+  return box.clickedButton() == yes;
+}
+
 void QtPrompts::ShowModal(ModalForm form) {
   PaintMainWindow();
   switch (form) {
     case ModalForm::Loader:
-      LoaderDialog(*session_, Parent()).exec();
+      LoaderDialog(*session_, door_, Parent()).exec();
       break;
     case ModalForm::Options: {
       // Before there is a main window it is the first start that asks.
       const auto occasion = mainWindow_ == nullptr ? OptionsDialog::Occasion::FirstStart
                                                    : OptionsDialog::Occasion::Wanted;
-      OptionsDialog(*session_, occasion, Parent()).exec();
+      OptionsDialog(*session_, door_, occasion, Parent()).exec();
       break;
     }
     case ModalForm::SkillLevel:
-      SkillLevelDialog(*session_, Parent()).exec();
+      SkillLevelDialog(*session_, door_, Parent()).exec();
+      break;
+    case ModalForm::Recent:
+      RecentDialog(*session_, door_, Parent()).exec();
       break;
     case ModalForm::About:
       AboutDialog(Parent()).exec();

@@ -6,8 +6,10 @@
 #include <QWidget>
 #include <functional>
 #include <memory>
+#include <utility>
 
 #include "base/ports.h"
+#include "ui/wiring/acts.h"
 
 namespace ng {
 
@@ -16,8 +18,11 @@ class Session;
 /// The real questions and messages: modal windows of the toolkit.
 class QtPrompts : public Prompts {
  public:
-  /// The session whose forms the modal dialogs show.
-  void Attach(Session& session) { session_ = &session; }
+  /// The session whose forms the modal dialogs show, and the door that their acts go through.
+  void Attach(const Session& session, Perform door) {
+    session_ = &session;
+    door_ = std::move(door);
+  }
   /// The window that the dialogs open in front of, and what it does to show how far a command has
   /// come when the command asks something in between.
   void SetMainWindow(QWidget& window, std::function<void()> paint);
@@ -28,6 +33,7 @@ class QtPrompts : public Prompts {
   std::optional<std::string> OpenFile(const FileDialog& dialog) override;
   std::optional<std::string> SaveFile(const FileDialog& dialog) override;
   SaveChoice AskToSave(std::string_view question) override;
+  bool AskToTakeUp(std::string_view question) override;
   void ShowModal(ModalForm form) override;
   /// Shows the dialog only for work that takes longer than a quarter of a second.
   void ShowProgress(std::string_view what, int done, int total) override;
@@ -36,7 +42,8 @@ class QtPrompts : public Prompts {
   QWidget* Parent() const;
   void PaintMainWindow() const;
 
-  Session* session_ = nullptr;
+  const Session* session_ = nullptr;
+  Perform door_;
   QPointer<QWidget> mainWindow_;
   std::function<void()> paint_;
   QElapsedTimer workTime_;

@@ -34,8 +34,8 @@ RecentDialog::RecentDialog(const Session& session, const Perform& door, QWidget*
                              "Close the fight in the window and take up the selected one"},
                             "&Take up", this);
   takeUp->setDefault(true);
-  auto* cancel = MakeButton({QStringLiteral("cmdCancel"), "Cancel", "Close without a choice"},
-                            "Cancel", this);
+  auto* cancel =
+      MakeButton({QStringLiteral("cmdCancel"), "Cancel", "Close without a choice"}, "Cancel", this);
   connect(fights, &QTreeWidget::itemActivated, this, [this] { Do({"frmRecent.cmdTakeUp"}); });
   auto* buttons = MakeRow(kGroupGap);
   buttons->addStretch(1);

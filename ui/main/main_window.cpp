@@ -15,10 +15,10 @@
 #include <QToolButton>
 #include <QTreeWidget>
 #include <algorithm>
-#include <string_view>
 #include <utility>
 
 #include "app/controls.h"
+#include "app/form_windows.h"
 #include "app/session.h"
 #include "ui/look/theme.h"
 #include "ui/main/combat_page.h"
@@ -28,12 +28,12 @@
 #include "ui/main/person_page.h"
 #include "ui/main/window_place.h"
 #include "ui/side/help_window.h"
+#include "ui/side/history_window.h"
 #include "ui/side/info_window.h"
 #include "ui/side/note_windows.h"
 #include "ui/side/roller_window.h"
 #include "ui/widgets/initiative_grid_view.h"
 #include "ui/widgets/legend.h"
-#include "ui/widgets/list_paint.h"
 #include "ui/widgets/phase_label.h"
 #include "ui/wiring/bind.h"
 #include "ui/wiring/button_keys.h"
@@ -49,13 +49,21 @@ constexpr int kLeftPane = 312;
 constexpr int kLeastLeftPane = 226;
 constexpr int kWidestLeftPane = 560;
 
-void ShowText(QLabel& label, const QString& text) {
-  if (label.text() != text) label.setText(text);
+template <typename Window>
+SideWindow* Make(const Perform& perform, QWidget* parent) {
+  return new Window(perform, parent);
 }
 
 }  // namespace
 
-MainWindow::MainWindow(Session& session) : session_(session) {
+MainWindow::MainWindow(const Session& session, Perform door)
+    : session_(session), door_(std::move(door)), sides_{{"ngdr", Make<RollerWindow>},
+                                                        {"frmGM", Make<GmWindow>},
+                                                        {"frmDisplay", Make<LogWindow>},
+                                                        {"frmReference", Make<ReferenceWindow>},
+                                                        {"frmInfo", Make<InfoWindow>},
+                                                        {"frmHelp", Make<HelpWindow>},
+                                                        {"frmHistory", Make<HistoryWindow>}} {
   setWindowTitle(QStringLiteral("NGtracker"));
   setObjectName(QStringLiteral("frmMain"));
   setMinimumSize(kLeastWindow);
@@ -78,7 +86,7 @@ MainWindow::MainWindow(Session& session) : session_(session) {
   auto* toGrid = new QShortcut(QKeySequence(Qt::Key_Escape), this);
   connect(toGrid, &QShortcut::activated, this,
           [this] { grid_->setFocus(Qt::ShortcutFocusReason); });
-  FindLists();
+  ConnectLists();
   AddButtonKeys(*this);
   KeepEditingKeys(*this);
   new FileDrop(*this, perform);
@@ -94,12 +102,11 @@ void MainWindow::BuildLeftPane(QWidget* parent) {
   auto* pane = new QWidget(parent);
   pane->setMinimumWidth(kLeastLeftPane);
   pane->setMaximumWidth(kWidestLeftPane);
-  phase_ = new PhaseLabel(pane);
   grid_ = new InitiativeGridView([this](const Act& act) { Do(act); }, pane);
   auto* column = new QVBoxLayout(pane);
   column->setContentsMargins(kMargin, kMargin, 0, kGap);
   column->setSpacing(kGap);
-  column->addWidget(phase_);
+  column->addWidget(new PhaseLabel(pane));
   column->addWidget(grid_, 1);
   column->addWidget(new Legend(pane));
 }
@@ -125,24 +132,32 @@ void MainWindow::BuildRightPane(QWidget* parent) {
 }
 
 void MainWindow::BuildStatusBar() {
+  statusBar()->setObjectName(QStringLiteral("statusBar"));
   statusBar()->setSizeGripEnabled(false);
   auto* message = new QLabel(this);
   message->setObjectName(QStringLiteral("lblStatus"));
   message->setContentsMargins(3, 0, 0, 0);
   statusBar()->addWidget(message, 1);
-  auto* failure = new QToolButton(this);
-  failure->setObjectName(QStringLiteral("lblLogFailure"));
-  failure->setToolTip("Click to dismiss; the list in the Game Master window is complete");
-  failure->setAutoRaise(true);
-  failure->setProperty("tone", "alarm");
-  // As high as the words beside it, so that nothing moves when it comes and goes.
-  failure->setMaximumHeight(failure->fontMetrics().height());
-  statusBar()->addPermanentWidget(failure);
-  for (QLabel** label : {&combatants_, &combatTurn_, &pass_, &roller_}) {
-    *label = new QLabel(this);
-    (*label)->setContentsMargins(0, 0, 10, 0);
-    statusBar()->addPermanentWidget(*label);
+  AddNotice("lblLogFailure", "Click to dismiss; the list in the Game Master window is complete");
+  AddNotice("lblJournal", "Click to dismiss");
+  for (const char* name : {"lblCombatants", "lblCombatTurn", "lblPass", "lblRoller"}) {
+    auto* label = new QLabel(this);
+    label->setObjectName(QString::fromLatin1(name));
+    label->setContentsMargins(0, 0, 10, 0);
+    statusBar()->addPermanentWidget(label);
   }
+}
+
+void MainWindow::AddNotice(const char* name, const char* tip) {
+  auto* notice = new QToolButton(this);
+  notice->setObjectName(QString::fromLatin1(name));
+  notice->setToolTip(QString::fromLatin1(tip));
+  notice->setAutoRaise(true);
+  notice->setProperty("tone", "alarm");
+  notice->setProperty("hidesEmpty", true);
+  // As high as the words beside it, so that nothing moves when it comes and goes.
+  notice->setMaximumHeight(notice->fontMetrics().height());
+  statusBar()->addPermanentWidget(notice);
 }
 
 void MainWindow::Place() {
@@ -157,105 +172,89 @@ void MainWindow::Place() {
   resize(place.size());
 }
 
+/// Enter and a double click on a line of a list ask what is known of it.
+void MainWindow::ConnectLists() {
+  for (QTreeWidget* list : findChildren<QTreeWidget*>()) {
+    connect(list, &QTreeWidget::itemActivated, this, [this, list](QTreeWidgetItem* item) {
+      Do({list->objectName().toStdString() + "_Select", list->indexOfTopLevelItem(item), {}});
+      Do({"mnuViewInfo"});
+    });
+  }
+}
+
 void MainWindow::Do(const Act& act) {
   const int tests = session_.main.ngdr.TestsStarted();
-  session_.Do(act);
+  door_(act);
   PaintAll();
   BringToFront(act);
   // The keys that roll the test mean something else in the main window.
   const bool started = session_.main.ngdr.TestsStarted() != tests;
-  if (started && ngdr_ != nullptr && ngdr_->isVisible()) ngdr_->BringToFront();
+  SideWindow* roller = FindSideWindow("ngdr");
+  if (started && roller != nullptr && roller->isVisible()) roller->BringToFront();
   if (session_.main.closing) close();
 }
 
+SideWindow* MainWindow::FindSideWindow(std::string_view name) const {
+  return std::ranges::find(sides_, name,
+                           [](const Side& side) { return std::string_view(side.name); })
+      ->window;
+}
+
 /// A window that is asked for comes to the front, though it is open already.
-void MainWindow::BringToFront(const Act& act) {
-  const std::pair<std::string_view, SideWindow*> windows[] = {
-      {"ShowRoller", ngdr_},        {"mnuViewGM", gameMaster_},       {"mnuViewLog", log_},
-      {"frmGM.cmdViewLog", log_},   {"mnuViewReference", reference_}, {"mnuViewInfo", itemInfo_},
-      {"cmdInfoWeapon", itemInfo_}, {"cmdInfoArmor", itemInfo_},      {"cmdInfoGear", itemInfo_},
-      {"mnuHelpContents", help_}};
-  for (const auto& [control, window] : windows) {
-    if (act.control == control && window != nullptr && window->isVisible()) window->BringToFront();
+void MainWindow::BringToFront(const Act& act) const {
+  static constexpr std::pair<std::string_view, std::string_view> kAsking[] = {
+      {"ShowRoller", "ngdr"},
+      {"mnuViewGM", "frmGM"},
+      {"mnuViewLog", "frmDisplay"},
+      {"frmGM.cmdViewLog", "frmDisplay"},
+      {"mnuViewReference", "frmReference"},
+      {"mnuViewInfo", "frmInfo"},
+      {"mnuViewHistory", "frmHistory"},
+      {"cmdInfoWeapon", "frmInfo"},
+      {"cmdInfoArmor", "frmInfo"},
+      {"cmdInfoGear", "frmInfo"},
+      {"mnuHelpContents", "frmHelp"}};
+  for (const auto& [control, name] : kAsking) {
+    if (act.control != control) continue;
+    SideWindow* window = FindSideWindow(name);
+    if (window != nullptr && window->isVisible()) window->BringToFront();
   }
 }
 
 void MainWindow::PaintAll() {
-  const MainForm& form = session_.main;
   PaintColours();
-  binder_->Paint([&form](ControlVisitor& visitor) { VisitControls(form, visitor); });
-  PaintMarks();
-  grid_->SetShownRow(form.ShownRow());
-  phase_->FitFont();
-  PaintCounts();
+  binder_->Paint([this](ControlVisitor& visitor) { VisitControls(session_, visitor); });
   PaintSideWindows();
-  if (statusBar()->isHidden() == form.statusBarVisible) {
-    statusBar()->setVisible(form.statusBarVisible);
-  }
-}
-
-/// Each window beside this one is made when it is first wanted, which keeps the start short; its
-/// form is there from the start.
-template <typename Window>
-void MainWindow::PaintSideWindow(Window*& window, bool wanted) {
-  if (wanted && window == nullptr) window = new Window([this](const Act& act) { Do(act); }, this);
-  if (window != nullptr && (wanted || window->isVisible())) window->Paint(session_.main);
 }
 
 void MainWindow::PaintSideWindows() {
-  const MainForm& form = session_.main;
-  PaintSideWindow(ngdr_, form.ngdr.visible);
-  PaintSideWindow(gameMaster_, form.frmGMOpen);
-  PaintSideWindow(log_, form.logViewer.open);
-  PaintSideWindow(reference_, form.reference.open);
-  PaintSideWindow(itemInfo_, form.itemInfo.open);
-  PaintSideWindow(help_, form.help.open);
-}
-
-void MainWindow::FindLists() {
-  constexpr std::array<const char*, kSheetLists> kNames = {
-      "lstWeapon", "lstArmor", "lstGear",     "lstActive",   "lstOther",
-      "lstMagic",  "lstEdges", "lstAugments", "lstContacts", "lstRace"};
-  std::ranges::transform(kNames, lists_.begin(), [this](const char* name) {
-    return findChild<QTreeWidget*>(QString::fromLatin1(name));
-  });
-}
-
-void MainWindow::PaintMarks() {
-  for (std::size_t list = 0; list < kSheetLists; ++list) {
-    ShowSelection(*lists_[list], session_.main.itemInfo.Marked(static_cast<SheetList>(list)));
+  const Perform perform = [this](const Act& act) { Do(act); };
+  for (Side& side : sides_) {
+    if (side.window == nullptr && FindFormWindow(side.name).open(session_)) {
+      side.window = side.make(perform, this);
+    }
+    if (side.window != nullptr) side.window->Paint(session_);
   }
 }
 
-void MainWindow::PaintColours() {
+void MainWindow::PaintColours() const {
   const Theme& wanted = session_.main.darkColours ? Theme::Dark() : Theme::Light();
   if (&wanted != &Theme::Current()) ApplyTheme(*qApp, wanted);
 }
 
-void MainWindow::PaintCounts() {
-  const MainForm& form = session_.main;
-  const int count = form.GridX.RowCount();
-  ShowText(*combatants_, count == 1 ? "1 combatant" : QStringLiteral("%1 combatants").arg(count));
-  ShowText(*combatTurn_, QStringLiteral("Combat turn %1").arg(form.fight.RoundCount.Value()));
-  const int pass = form.fight.PhaseCnt.Value();
-  ShowText(*pass_, pass > kLastPass ? "Turn over" : QStringLiteral("Pass %1").arg(pass));
-  const bool off = static_cast<bool>(session_.environment.settings.DisableNGDR);
-  ShowText(*roller_, off ? "Roller off" : "Roller on");
-}
-
 void MainWindow::KeepPlace(const QRect& place) {
   const WindowLayout layout = KeptLayout(place);
-  session_.Do({"MainLeft", layout.MainLeft});
-  session_.Do({"MainTop", layout.MainTop});
-  session_.Do({"MainWidth", layout.MainWidth});
-  session_.Do({"MainHeight", layout.MainHeight});
-  session_.Do({"Form_Unload"});
+  door_({"MainLeft", layout.MainLeft});
+  door_({"MainTop", layout.MainTop});
+  door_({"MainWidth", layout.MainWidth});
+  door_({"MainHeight", layout.MainHeight});
+  door_({"Form_Unload"});
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   if (!session_.main.closing) {
     // Not by Do(), which would close the window once more and so skip the question.
-    session_.Do({"mnuFileExit"});
+    door_({"mnuFileExit"});
     PaintAll();
   }
   if (!session_.main.closing) {

@@ -1,35 +1,27 @@
 #pragma once
 
 #include <QMainWindow>
-#include <array>
 #include <memory>
+#include <string_view>
+#include <vector>
 
-#include "import/character_display.h"
 #include "ui/wiring/acts.h"
-
-class QLabel;
-class QTreeWidget;
 
 namespace ng {
 
 class Binder;
-class GmWindow;
-class HelpWindow;
-class InfoWindow;
 class InitiativeGridView;
-class LogWindow;
-class PhaseLabel;
-class ReferenceWindow;
-class RollerWindow;
 class Session;
+class SideWindow;
 
 /// The frame of the main window: menus, toolbar, grid, header, pages, status bar. It knows no
-/// rules; what the user does becomes an act, and then the window paints itself from the forms.
+/// rules; what the user does becomes an act, and then the window paints itself from the forms. It
+/// sees the forms and cannot change them: its acts go through the door.
 class MainWindow : public QMainWindow {
   Q_OBJECT
 
  public:
-  explicit MainWindow(Session& session);
+  MainWindow(const Session& session, Perform door);
   ~MainWindow() override;
 
   /// The one way in which the window changes anything.
@@ -43,33 +35,30 @@ class MainWindow : public QMainWindow {
   void BuildLeftPane(QWidget* parent);
   void BuildRightPane(QWidget* parent);
   void BuildStatusBar();
+  /// A warning in the status bar that is there while it has words, and dismissed by a click.
+  void AddNotice(const char* name, const char* tip);
   void Place();
   /// Keeps the place for the next start.
   void KeepPlace(const QRect& place);
-  void BringToFront(const Act& act);
-  void FindLists();
-  void PaintMarks();
-  void PaintColours();
-  void PaintCounts();
-  template <typename Window>
-  void PaintSideWindow(Window*& window, bool wanted);
+  void ConnectLists();
+  void PaintColours() const;
   void PaintSideWindows();
+  SideWindow* FindSideWindow(std::string_view name) const;
+  void BringToFront(const Act& act) const;
 
-  Session& session_;
-  PhaseLabel* phase_ = nullptr;
+  /// A window beside this one. It is made when it is first wanted, which keeps the start short; its
+  /// form is there from the start.
+  struct Side {
+    const char* name;
+    SideWindow* (*make)(const Perform& perform, QWidget* parent);
+    /// Null before it is wanted.
+    SideWindow* window = nullptr;
+  };
+
+  const Session& session_;
+  Perform door_;
   InitiativeGridView* grid_ = nullptr;
-  /// The lists of the pages, in the order of SheetList.
-  std::array<QTreeWidget*, kSheetLists> lists_{};
-  QLabel* combatants_ = nullptr;
-  QLabel* combatTurn_ = nullptr;
-  QLabel* pass_ = nullptr;
-  QLabel* roller_ = nullptr;
-  GmWindow* gameMaster_ = nullptr;
-  LogWindow* log_ = nullptr;
-  ReferenceWindow* reference_ = nullptr;
-  HelpWindow* help_ = nullptr;
-  InfoWindow* itemInfo_ = nullptr;
-  RollerWindow* ngdr_ = nullptr;
+  std::vector<Side> sides_;
   std::unique_ptr<Binder> binder_;
 };
 

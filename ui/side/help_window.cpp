@@ -3,17 +3,14 @@
 #include <QBoxLayout>
 #include <QLineEdit>
 #include <QShortcut>
-#include <QSignalBlocker>
 #include <QTextBrowser>
 #include <QTextCursor>
 #include <QTextTable>
 #include <QTreeWidget>
 #include <span>
 
-#include "app/main_form.h"
 #include "ui/look/layout_kit.h"
-#include "ui/widgets/list_paint.h"
-#include "ui/wiring/code_page_input.h"
+#include "ui/wiring/shows.h"
 #include "ui/wiring/text.h"
 
 namespace ng {
@@ -69,74 +66,71 @@ void HighlightText(QTextDocument& document, const QString& wanted) {
   }
 }
 
+/// Shows a topic that is written in Markdown, with what is looked for highlighted.
+class TopicBrowser : public QTextBrowser, public ShowsText {
+ public:
+  TopicBrowser(const QLineEdit& filter, QWidget* parent) : QTextBrowser(parent), filter_(filter) {}
+
+  void ShowText(const std::string& text) override {
+    const Shown wanted{text, filter_.text(), &Theme::Current()};
+    if (shown_ == wanted) return;
+    shown_ = wanted;
+    document()->setMarkdown(ToQString(text), QTextDocument::MarkdownDialectGitHub);
+    for (QTextFrame* frame : document()->rootFrame()->childFrames()) {
+      if (auto* table = qobject_cast<QTextTable*>(frame)) FormatTable(*table);
+    }
+    HighlightText(*document(), filter_.text());
+  }
+
+ private:
+  /// What the browser shows, and the colours that it was written in.
+  struct Shown {
+    std::string topic;
+    QString filter;
+    const Theme* theme = nullptr;
+    bool operator==(const Shown&) const = default;
+  };
+
+  /// The box is painted before the topic.
+  const QLineEdit& filter_;
+  Shown shown_;
+};
+
 }  // namespace
 
 HelpWindow::HelpWindow(const Perform& perform, QWidget* parent)
-    : SideWindow(QStringLiteral("frmHelp"), "Help", "frmHelp.Close", perform, parent) {
+    : SideWindow("frmHelp", "Help", perform, parent) {
   setMinimumSize(kLeastSize);
   resize(kSize);
-  filter_ = MakeBox({QStringLiteral("txtFilter"), "Find in the help",
-                     TipWithKey("Show the lines that contain this", "Ctrl+F")},
-                    kTopicsWidth, this);
-  filter_->setAlignment(Qt::AlignLeft);
-  filter_->setPlaceholderText("Find");
-  filter_->setClearButtonEnabled(true);
+  auto* filter = MakeBox({QStringLiteral("txtFilter"), "Find in the help",
+                          TipWithKey("Show the lines that contain this", "Ctrl+F")},
+                         kTopicsWidth, this);
+  filter->setAlignment(Qt::AlignLeft);
+  filter->setPlaceholderText("Find");
+  filter->setClearButtonEnabled(true);
   topics_ = MakePlainList({QStringLiteral("lstTopics"), "Topics", "The topics of the help"}, this);
   topics_->setFixedWidth(kTopicsWidth);
-  topic_ = new QTextBrowser(this);
-  topic_->setObjectName(QStringLiteral("txtTopic"));
-  topic_->setAccessibleName("Text of the topic");
+  auto* topic = new TopicBrowser(*filter, this);
+  topic->setObjectName(QStringLiteral("txtTopic"));
+  topic->setAccessibleName("Text of the topic");
   // Keys and names stay whole in narrow columns.
-  topic_->setWordWrapMode(QTextOption::WordWrap);
-  topic_->document()->setDocumentMargin(kGroupPadding);
-  KeepToCodePage(*filter_, perform);
-  connect(filter_, &QLineEdit::textEdited, this, [this](const QString& text) {
-    Do({"frmHelp.txtFilter", 0, FromQString(text)});
-  });
-  connect(topics_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
-    if (item != nullptr) Do({"frmHelp.lstTopics_Select", topics_->indexOfTopLevelItem(item)});
-  });
+  topic->setWordWrapMode(QTextOption::WordWrap);
+  topic->document()->setDocumentMargin(kGroupPadding);
   auto* find = new QShortcut(QKeySequence(QKeySequence::Find), this);
-  connect(find, &QShortcut::activated, this, [this] {
-    filter_->setFocus(Qt::ShortcutFocusReason);
-    filter_->selectAll();
+  connect(find, &QShortcut::activated, this, [filter] {
+    filter->setFocus(Qt::ShortcutFocusReason);
+    filter->selectAll();
   });
   auto* left = new QVBoxLayout;
   left->setSpacing(kGroupGap);
-  left->addWidget(filter_);
+  left->addWidget(filter);
   left->addWidget(topics_, 1);
   auto* row = new QHBoxLayout(this);
   SetEdges(*row);
   row->addLayout(left);
-  row->addWidget(topic_, 1);
+  row->addWidget(topic, 1);
 }
 
-void HelpWindow::Paint(const MainForm& form) {
-  const HelpForm& help = form.help;
-  const bool opens = help.open && !isVisible();
-  if (help.open) {
-    const QString filter = ToQString(help.txtFilter);
-    if (filter_->text() != filter) filter_->setText(filter);
-    const QSignalBlocker quiet(*topics_);
-    if (shownTopics_ != help.lstTopics) ShowLines(*topics_, help.lstTopics);
-    shownTopics_ = help.lstTopics;
-    ShowSelection(*topics_, help.lstTopicsIndex);
-    ShowTopic(help);
-  }
-  SetOpen(help.open);
-  if (opens) topics_->setFocus();
-}
-
-void HelpWindow::ShowTopic(const HelpForm& help) {
-  const Shown wanted{help.txtTopic, help.txtFilter, &Theme::Current()};
-  if (shown_ == wanted) return;
-  shown_ = wanted;
-  QTextDocument& document = *topic_->document();
-  document.setMarkdown(ToQString(help.txtTopic), QTextDocument::MarkdownDialectGitHub);
-  for (QTextFrame* frame : document.rootFrame()->childFrames()) {
-    if (auto* table = qobject_cast<QTextTable*>(frame)) FormatTable(*table);
-  }
-  HighlightText(document, ToQString(help.txtFilter));
-}
+void HelpWindow::Opened() { topics_->setFocus(); }
 
 }  // namespace ng

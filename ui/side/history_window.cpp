@@ -42,8 +42,8 @@ HistoryWindow::HistoryWindow(const Perform& perform, QWidget* parent)
 }
 
 QBoxLayout* HistoryWindow::BuildFilters() {
-  auto* find = MakeBox({QStringLiteral("txtFind"), "Find", "List only lines that contain this"}, 0,
-                       this);
+  auto* find =
+      MakeBox({QStringLiteral("txtFind"), "Find", "List only lines that contain this"}, 0, this);
   find->setMaximumWidth(QWIDGETSIZE_MAX);
   find->setAlignment(Qt::AlignLeft);
   find->setPlaceholderText("Find");
@@ -73,12 +73,12 @@ QBoxLayout* HistoryWindow::BuildButtons() {
   auto* copy = MakeButton({QStringLiteral("copyLine"), "Copy", "Copy the selected line (Ctrl+C)"},
                           "C&opy", this);
   connect(copy, &QPushButton::clicked, this, [this] { CopySelected(); });
-  auto* save = MakeButton({QStringLiteral("cmdSave"), "Save as text",
-                           "Save the listed lines as a text file"},
-                          "&Save as text...", this);
-  auto* shut = MakeButton({QStringLiteral("cmdClose"), "Close the window",
-                           TipWithKey("Close the window", "Esc")},
-                          "Close", this);
+  auto* save = MakeButton(
+      {QStringLiteral("cmdSave"), "Save as text", "Save the listed lines as a text file"},
+      "&Save as text...", this);
+  auto* shut = MakeButton(
+      {QStringLiteral("cmdClose"), "Close the window", TipWithKey("Close the window", "Esc")},
+      "Close", this);
   connect(shut, &QPushButton::clicked, this, [this] { reject(); });
   auto* row = MakeRow(kGroupGap);
   for (QPushButton* button : {back, show, copy, save}) row->addWidget(button);

@@ -10,13 +10,6 @@ class InfoWindow : public SideWindow {
 
  public:
   InfoWindow(const Perform& perform, QWidget* parent);
-  void Paint(const MainForm& form);
-
- private:
-  QLabel* item_;
-  QTreeWidget* figures_;
-  QPlainTextEdit* reference_;
-  std::vector<std::string> shown_;
 };
 
 }  // namespace ng

@@ -5,29 +5,18 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QSignalBlocker>
 #include <QTreeWidget>
 
-#include "app/main_form.h"
 #include "ui/look/layout_kit.h"
-#include "ui/widgets/list_paint.h"
-#include "ui/wiring/code_page_input.h"
-#include "ui/wiring/text.h"
 
 namespace ng {
 namespace {
 
-/// Fills a list that goes on growing and shows its end, if it shows something else.
-void FollowLines(QTreeWidget& list, std::vector<std::string>& shown,
-                 const std::vector<std::string>& lines) {
-  if (shown == lines) return;
-  shown = lines;
-  const QSignalBlocker quiet(list);
-  ShowLines(list, lines);
-  // The newest line is the one to begin with.
-  const int last = list.topLevelItemCount() - 1;
-  list.setCurrentItem(list.topLevelItem(last), 0, QItemSelectionModel::NoUpdate);
-  list.scrollToBottom();
+/// A list that goes on growing, shown from its end.
+QTreeWidget* MakeGrowingList(const Naming& naming, QWidget* parent) {
+  QTreeWidget* list = MakePlainList(naming, parent);
+  list->setProperty("showsEnd", true);
+  return list;
 }
 
 }  // namespace
@@ -42,18 +31,12 @@ QPlainTextEdit* MakeEntryText(const QString& name, QWidget* parent) {
   return text;
 }
 
-void ShowEntry(QPlainTextEdit& widget, const std::string& entry) {
-  QString text = ToQString(entry);
-  text.replace(QLatin1Char('|'), QLatin1Char('\n')).remove(QLatin1Char('\r'));
-  if (widget.toPlainText() != text) widget.setPlainText(text);
-}
-
 GmWindow::GmWindow(const Perform& perform, QWidget* parent)
-    : SideWindow(QStringLiteral("frmGM"), "Game Master", "frmGM.Close", perform, parent) {
+    : SideWindow("frmGM", "Game Master", perform, parent) {
   resize(420, 350);
-  lines_ = MakePlainList({QStringLiteral("lstGMinfo"), "Game master's notes",
-                          "What happened, and the notes that you added"},
-                         this);
+  lines_ = MakeGrowingList({QStringLiteral("lstGMinfo"), "Game master's notes",
+                            "What happened, and the notes that you added"},
+                           this);
   auto* add =
       MakeButton({QStringLiteral("cmdAddNote"), "Add a note", "Add a line of your own to the list"},
                  "&Add Note", this);
@@ -64,8 +47,6 @@ GmWindow::GmWindow(const Perform& perform, QWidget* parent)
   auto* shut = MakeButton(
       {QStringLiteral("cmdClose"), "Close the window", TipWithKey("Close the window", "Esc")},
       "Close", this);
-  connect(add, &QPushButton::clicked, this, [this] { Do({"frmGM.cmdAddNote"}); });
-  connect(log, &QPushButton::clicked, this, [this] { Do({"frmGM.cmdViewLog"}); });
   connect(shut, &QPushButton::clicked, this, [this] { reject(); });
   auto* buttons = MakeRow(kGroupGap);
   buttons->addWidget(add);
@@ -78,42 +59,29 @@ GmWindow::GmWindow(const Perform& perform, QWidget* parent)
   column->addLayout(buttons);
 }
 
-void GmWindow::Paint(const MainForm& form) {
-  const bool opens = form.frmGMOpen && !isVisible();
-  FollowLines(*lines_, shown_, form.gmLog.lstGMinfo());
-  SetOpen(form.frmGMOpen);
-  if (opens) lines_->scrollToBottom();
-}
+void GmWindow::Opened() { lines_->scrollToBottom(); }
 
 LogWindow::LogWindow(const Perform& perform, QWidget* parent)
-    : SideWindow(QStringLiteral("frmDisplay"), "Log", "frmDisplay.cmdClose", perform, parent) {
+    : SideWindow("frmDisplay", "Log", perform, parent) {
   resize(420, 350);
-  lines_ = MakePlainList(
+  auto* lines = MakeGrowingList(
       {QStringLiteral("lstDisplay"), "Lines of the log file", "Every line of the log file"}, this);
-  count_ = MakeCaption({}, this);
+  auto* count = MakeCaption({}, this);
+  count->setObjectName(QStringLiteral("lblCount"));
   auto* shut = MakeButton(
       {QStringLiteral("cmdClose"), "Close the window", TipWithKey("Close the window", "Esc")},
       "Close", this);
-  connect(shut, &QPushButton::clicked, this, [this] { reject(); });
   auto* row = MakeRow(kGroupGap);
-  row->addWidget(count_, 1);
+  row->addWidget(count, 1);
   row->addWidget(shut);
   auto* column = new QVBoxLayout(this);
   SetEdges(*column);
-  column->addWidget(lines_, 1);
+  column->addWidget(lines, 1);
   column->addLayout(row);
 }
 
-void LogWindow::Paint(const MainForm& form) {
-  FollowLines(*lines_, shown_, form.logViewer.lstDisplay);
-  const auto count = form.logViewer.lstDisplay.size();
-  count_->setText(count == 1 ? "1 line" : QStringLiteral("%1 lines").arg(count));
-  SetOpen(form.logViewer.open);
-}
-
 ReferenceWindow::ReferenceWindow(const Perform& perform, QWidget* parent)
-    : SideWindow(QStringLiteral("frmReference"), "Reference", "frmReference.Close", perform,
-                 parent) {
+    : SideWindow("frmReference", "Reference", perform, parent) {
   resize(620, 400);
   filter_ = MakeBox({QStringLiteral("txtFilter"), "Part of the name",
                      "Show the entries whose name contains this"},
@@ -123,42 +91,18 @@ ReferenceWindow::ReferenceWindow(const Perform& perform, QWidget* parent)
   filter_->setAlignment(Qt::AlignLeft);
   filter_->setPlaceholderText("Part of the name");
   filter_->setClearButtonEnabled(true);
-  names_ = MakePlainList(
+  auto* names = MakePlainList(
       {QStringLiteral("lstNames"), "Entries", "The entries of the reference file"}, this);
-  entry_ = MakeEntryText(QStringLiteral("txtEntry"), this);
-  KeepToCodePage(*filter_, perform);
-  connect(filter_, &QLineEdit::textEdited, this, [this](const QString& text) {
-    Do({"frmReference.txtFilter", 0, FromQString(text)});
-  });
-  connect(names_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
-    if (item != nullptr) Do({"frmReference.lstNames_Select", names_->indexOfTopLevelItem(item)});
-  });
   auto* left = new QVBoxLayout;
   left->setSpacing(kGroupGap);
   left->addWidget(filter_);
-  left->addWidget(names_, 1);
+  left->addWidget(names, 1);
   auto* row = new QHBoxLayout(this);
   SetEdges(*row);
   row->addLayout(left, 2);
-  row->addWidget(entry_, 3);
+  row->addWidget(MakeEntryText(QStringLiteral("txtEntry"), this), 3);
 }
 
-void ReferenceWindow::Paint(const MainForm& form) {
-  const ReferenceForm& reference = form.reference;
-  const QString filter = ToQString(reference.txtFilter);
-  if (filter_->text() != filter) filter_->setText(filter);
-  {
-    const QSignalBlocker quiet(*names_);
-    if (shown_ != reference.lstNames) {
-      shown_ = reference.lstNames;
-      ShowLines(*names_, shown_);
-    }
-    names_->setCurrentItem(names_->topLevelItem(reference.lstNamesIndex));
-  }
-  ShowEntry(*entry_, reference.txtEntry);
-  const bool opens = reference.open && !isVisible();
-  SetOpen(reference.open);
-  if (opens) filter_->setFocus();
-}
+void ReferenceWindow::Opened() { filter_->setFocus(); }
 
 }  // namespace ng

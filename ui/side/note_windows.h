@@ -2,7 +2,6 @@
 
 #include "ui/side/side_window.h"
 
-class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
 class QTreeWidget;
@@ -11,8 +10,6 @@ namespace ng {
 
 /// A read-only text of the reference file, with this object name.
 QPlainTextEdit* MakeEntryText(const QString& name, QWidget* parent);
-/// Shows an entry, its fields below one another.
-void ShowEntry(QPlainTextEdit& widget, const std::string& entry);
 
 /// The game master's list of notes.
 class GmWindow : public SideWindow {
@@ -20,11 +17,11 @@ class GmWindow : public SideWindow {
 
  public:
   GmWindow(const Perform& perform, QWidget* parent);
-  void Paint(const MainForm& form);
 
  private:
+  void Opened() override;
+
   QTreeWidget* lines_;
-  std::vector<std::string> shown_;
 };
 
 /// What the log file holds.
@@ -33,12 +30,6 @@ class LogWindow : public SideWindow {
 
  public:
   LogWindow(const Perform& perform, QWidget* parent);
-  void Paint(const MainForm& form);
-
- private:
-  QTreeWidget* lines_;
-  std::vector<std::string> shown_;
-  QLabel* count_;
 };
 
 /// The names of the reference file with a filter, and the entry of the one chosen.
@@ -47,13 +38,11 @@ class ReferenceWindow : public SideWindow {
 
  public:
   ReferenceWindow(const Perform& perform, QWidget* parent);
-  void Paint(const MainForm& form);
 
  private:
+  void Opened() override;
+
   QLineEdit* filter_;
-  QTreeWidget* names_;
-  std::vector<std::string> shown_;
-  QPlainTextEdit* entry_;
 };
 
 }  // namespace ng

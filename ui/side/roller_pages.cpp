@@ -131,9 +131,12 @@ class PageBuilder {
 
  private:
   QLineEdit* MakeModifierBox(int box, const QString& words) {
-    return MakeBox({ElementName("txtRVar", box), QStringLiteral("Modifier: %1").arg(words),
-                    "Modifier of the target number; 0 does not apply"},
-                   kModifierBoxWidth, page_);
+    QLineEdit* modifier =
+        MakeBox({ElementName("txtRVar", box), QStringLiteral("Modifier: %1").arg(words),
+                 "Modifier of the target number; 0 does not apply"},
+                kModifierBoxWidth, page_);
+    modifier->setProperty("nonZero", false);
+    return modifier;
   }
 
   void ClearWith(QWidget* caption, int box) {

@@ -14,12 +14,11 @@
 #include <utility>
 
 #include "app/keys.h"
-#include "app/main_form.h"
+#include "roller/modifier_board.h"
 #include "ui/look/layout_kit.h"
 #include "ui/side/roller_groups.h"
 #include "ui/side/roller_pages.h"
 #include "ui/widgets/elided_label.h"
-#include "ui/wiring/bind.h"
 #include "ui/wiring/button_keys.h"
 
 namespace ng {
@@ -38,7 +37,7 @@ constexpr unsigned kGeneral = PageBit(TestPage::General);
 }  // namespace
 
 RollerWindow::RollerWindow(const Perform& perform, QWidget* parent)
-    : SideWindow(QStringLiteral("ngdr"), "Dice roller", "ngdr.Hide", perform, parent) {
+    : SideWindow("ngdr", "Dice roller", perform, parent) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(kMargin, kMargin - 2, kMargin, kMargin);
   column->setSpacing(6);
@@ -60,11 +59,8 @@ RollerWindow::RollerWindow(const Perform& perform, QWidget* parent)
   connect(tabs, &QTabBar::currentChanged, modifiers.pages, &QStackedWidget::setCurrentIndex);
   connect(tabs, &QTabBar::currentChanged, this, &RollerWindow::ShowPage);
   ShowPage(tabs->currentIndex());
-  binder_ = std::make_unique<Binder>(*this, perform, "ngdr.");
   resize(kSize);
 }
-
-RollerWindow::~RollerWindow() = default;
 
 QFrame* RollerWindow::MakeStrip() {
   auto* strip = new QFrame(this);
@@ -150,16 +146,10 @@ void RollerWindow::ShowPage(int page) {
   }
 }
 
-void RollerWindow::Paint(const MainForm& form) {
-  if (form.ngdr.visible) {
-    binder_->Paint([&form](ControlVisitor& visitor) { VisitRollerControls(form, visitor); });
-  }
-  if (form.ngdr.visible && !isVisible()) {
-    PlaceBesideMainWindow();
-    // A stray key must not change the test that the main window set up; Enter rolls it.
-    findChild<QPushButton*>(QStringLiteral("cmdRoll"))->setFocus();
-  }
-  SetOpen(form.ngdr.visible);
+void RollerWindow::Opening() {
+  PlaceBesideMainWindow();
+  // A stray key must not change the test that the main window set up; Enter rolls it.
+  findChild<QPushButton*>(QStringLiteral("cmdRoll"))->setFocus();
 }
 
 /// At first to the right of the main window, over its edge as far as the screen has no room. Later

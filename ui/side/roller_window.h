@@ -1,6 +1,5 @@
 #pragma once
 
-#include <memory>
 #include <vector>
 
 #include "ui/side/side_window.h"
@@ -10,21 +9,15 @@ class QTabBar;
 
 namespace ng {
 
-class Binder;
-
-/// The window in which tests are rolled. It stays open beside the main window, and is made once,
-/// hidden, when the program starts.
+/// The window in which tests are rolled. It stays open beside the main window.
 class RollerWindow : public SideWindow {
   Q_OBJECT
 
  public:
   RollerWindow(const Perform& perform, QWidget* parent);
-  ~RollerWindow() override;
-
-  /// Shows or hides the window as the form has it; a hidden one is painted when it is shown.
-  void Paint(const MainForm& form);
 
  private:
+  void Opening() override;
   QFrame* MakeStrip();
   QTabBar* MakeTabs();
   void BuildMenu(const Perform& perform);
@@ -38,7 +31,6 @@ class RollerWindow : public SideWindow {
   };
   std::vector<StripPart> stripParts_;
   bool placed_ = false;
-  std::unique_ptr<Binder> binder_;
 };
 
 }  // namespace ng

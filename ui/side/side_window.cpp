@@ -5,7 +5,9 @@
 #include <utility>
 
 #include "app/commands.h"
+#include "app/form_windows.h"
 #include "ui/look/layout_kit.h"
+#include "ui/wiring/bind.h"
 #include "ui/wiring/text.h"
 
 namespace ng {
@@ -15,10 +17,9 @@ constexpr int kEdge = 12;
 
 }  // namespace
 
-SideWindow::SideWindow(const QString& name, const QString& title, const char* closeAct,
-                       Perform perform, QWidget* parent)
-    : QDialog(parent), closeAct_(closeAct), perform_(std::move(perform)) {
-  setObjectName(name);
+SideWindow::SideWindow(const char* name, const QString& title, Perform perform, QWidget* parent)
+    : QDialog(parent), window_(FindFormWindow(name)), perform_(std::move(perform)) {
+  setObjectName(QString::fromLatin1(name));
   setWindowTitle(title);
   setModal(false);
   // The shortcuts of the main window's menus do not work in this one.
@@ -29,17 +30,27 @@ SideWindow::SideWindow(const QString& name, const QString& title, const char* cl
   });
 }
 
-void SideWindow::reject() { Do({closeAct_}); }
+SideWindow::~SideWindow() = default;
+
+void SideWindow::Paint(const Session& session) {
+  const bool open = window_.open(session);
+  const bool opens = open && !isVisible();
+  if (open) {
+    if (binder_ == nullptr) binder_ = std::make_unique<Binder>(*this, perform_, window_.prefix);
+    binder_->Paint([&](ControlVisitor& visitor) { window_.visit(session, visitor); });
+  }
+  if (opens) Opening();
+  if (open != isVisible()) setVisible(open);
+  if (!opens) return;
+  activateWindow();
+  Opened();
+}
+
+void SideWindow::reject() { Do({window_.close}); }
 
 void SideWindow::BringToFront() {
   raise();
   activateWindow();
-}
-
-void SideWindow::SetOpen(bool open) {
-  if (open == isVisible()) return;
-  setVisible(open);
-  if (open) activateWindow();
 }
 
 void SideWindow::SetEdges(QBoxLayout& layout) {

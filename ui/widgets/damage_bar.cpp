@@ -17,7 +17,7 @@ constexpr int kLeastBoxWidth = 12;
 
 /// The letter in each box, blank where no level begins.
 constexpr std::array<char, kTrackBoxes> kLetters = {'L', ' ', 'M', ' ', ' ',
-                                                            'S', ' ', ' ', ' ', 'D'};
+                                                    'S', ' ', ' ', ' ', 'D'};
 
 /// The area of a box: the edges are on whole device pixels, with a pixel between two boxes.
 QRectF BoxArea(const QWidget& bar, int box) {
@@ -36,7 +36,7 @@ DamageBar::DamageBar(Track track, QWidget* parent) : QWidget(parent), track_(tra
   Announce();
 }
 
-void DamageBar::setBoxes(int boxes) {
+void DamageBar::ShowLevel(int boxes) {
   const int held = std::clamp(boxes, 0, kTrackBoxes);
   if (held == boxes_) return;
   boxes_ = held;

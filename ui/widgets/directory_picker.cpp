@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "ui/wiring/path_text.h"
+#include "ui/wiring/shows.h"
 
 namespace ng {
 namespace {
@@ -38,13 +39,23 @@ bool IsWithin(const QString& path, const QString& root) {
   return (path + QLatin1Char('/')).startsWith(end, Qt::CaseInsensitive);
 }
 
+/// The tree as the one of the picker's widgets that is told the directory.
+class DirectoryTree : public QTreeView, public ShowsText {
+ public:
+  DirectoryTree(DirectoryPicker& picker, QWidget* parent) : QTreeView(parent), picker_(picker) {}
+  void ShowText(const std::string& text) override { picker_.ShowDirectory(text); }
+
+ private:
+  DirectoryPicker& picker_;
+};
+
 }  // namespace
 
 DirectoryPicker::DirectoryPicker(const QString& drivesName, const QString& treeName,
                                  QWidget* parent)
     : QObject(parent),
       drives_(new QComboBox(parent)),
-      tree_(new QTreeView(parent)),
+      tree_(new DirectoryTree(*this, parent)),
       model_(new QFileSystemModel(this)) {
   drives_->setObjectName(drivesName);
   drives_->setAccessibleName("Drives");
@@ -52,9 +63,8 @@ DirectoryPicker::DirectoryPicker(const QString& drivesName, const QString& treeN
   tree_->setAccessibleName("Directory");
   FillDrives();
   BuildTree();
-  connect(drives_, &QComboBox::activated, this, [this](int index) {
-    emit DriveChosen(drives_->itemText(index), drives_->itemData(index).toString());
-  });
+  connect(drives_, &QComboBox::activated, this,
+          [this](int index) { emit DriveChosen(drives_->itemData(index).toString()); });
   // The selection and not the current row, which the tree sets by itself when it takes the focus.
   connect(tree_->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
     if (painting_ || !Marked().isValid()) return;

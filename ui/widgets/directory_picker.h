@@ -32,8 +32,8 @@ class DirectoryPicker : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  signals:
-  /// The drive's text, as the list shows it, and its root.
-  void DriveChosen(const QString& text, const QString& root);
+  /// The drive's root.
+  void DriveChosen(const QString& root);
   void DirectoryChosen(const QString& directory);
 
  private:

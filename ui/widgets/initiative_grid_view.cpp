@@ -82,7 +82,12 @@ InitiativeGridView::InitiativeGridView(Perform perform, QWidget* parent)
   });
 }
 
-void InitiativeGridView::Show(const InitiativeGrid& grid) {
+void InitiativeGridView::ShowGrid(const InitiativeGrid& grid, int shownRow) {
+  ShowRows(grid);
+  SetShownRow(shownRow);
+}
+
+void InitiativeGridView::ShowRows(const InitiativeGrid& grid) {
   if (model_.Show(grid)) {
     AutoSizeGrid();
     FitRows();

@@ -5,21 +5,20 @@
 #include "tracker/grid.h"
 #include "ui/widgets/initiative_grid_model.h"
 #include "ui/wiring/acts.h"
+#include "ui/wiring/shows.h"
 
 namespace ng {
 
 /// The initiative grid GridX. It shows and never edits by itself: keys and clicks become acts, and
 /// the current cell is where the form says. The displayed combatant's row has a black frame and
 /// bold text instead of a selection fill, so that its colour stays visible.
-class InitiativeGridView : public QTableView {
+class InitiativeGridView : public QTableView, public ShowsGrid {
   Q_OBJECT
 
  public:
   explicit InitiativeGridView(Perform perform, QWidget* parent = nullptr);
 
-  void Show(const InitiativeGrid& grid);
-  /// Row of the displayed combatant, 1 for the first, 0 for none.
-  void SetShownRow(int row);
+  void ShowGrid(const InitiativeGrid& grid, int shownRow) override;
 
  protected:
   bool event(QEvent* event) override;
@@ -30,6 +29,8 @@ class InitiativeGridView : public QTableView {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
+  void ShowRows(const InitiativeGrid& grid);
+  void SetShownRow(int row);
   /// Sizes the columns to their contents, down to a least width; the name takes what is left.
   void AutoSizeGrid();
   /// Makes the rows lower before they begin to scroll.

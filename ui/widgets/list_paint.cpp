@@ -1,5 +1,6 @@
 #include "ui/widgets/list_paint.h"
 
+#include <QListWidget>
 #include <QSignalBlocker>
 #include <QTreeWidget>
 #include <algorithm>
@@ -26,6 +27,13 @@ void ShowLine(QTreeWidgetItem& item, const QTreeWidget& tree, const std::string&
   }
 }
 
+void ShowEnd(QTreeWidget& tree) {
+  // The newest line is the one to begin with.
+  const int last = tree.topLevelItemCount() - 1;
+  tree.setCurrentItem(tree.topLevelItem(last), 0, QItemSelectionModel::NoUpdate);
+  tree.scrollToBottom();
+}
+
 }  // namespace
 
 void ShowLines(QTreeWidget& tree, const std::vector<std::string>& lines) {
@@ -38,6 +46,12 @@ void ShowLines(QTreeWidget& tree, const std::vector<std::string>& lines) {
     items.append(item);
   }
   tree.addTopLevelItems(items);
+  if (tree.property("showsEnd").toBool()) ShowEnd(tree);
+}
+
+void ShowLines(QListWidget& list, const std::vector<std::string>& lines) {
+  list.clear();
+  for (const std::string& line : lines) list.addItem(ToQString(line));
 }
 
 void ShowMarks(QTreeWidget& tree, const std::vector<CarriedLine>& lines) {
@@ -48,6 +62,14 @@ void ShowMarks(QTreeWidget& tree, const std::vector<CarriedLine>& lines) {
     const Qt::CheckState state = carried ? Qt::Checked : Qt::Unchecked;
     const QVariant shown = item->data(0, Qt::CheckStateRole);
     if (!shown.isValid() || item->checkState(0) != state) item->setCheckState(0, state);
+  }
+}
+
+void ShowMarks(QListWidget& list, const std::vector<CarriedLine>& lines) {
+  const int count = std::min(list.count(), static_cast<int>(lines.size()));
+  for (int i = 0; i < count; ++i) {
+    const bool marked = lines[static_cast<std::size_t>(i)].carried;
+    if (list.item(i)->isSelected() != marked) list.item(i)->setSelected(marked);
   }
 }
 

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "ui/look/theme.h"
+#include "ui/wiring/text.h"
 
 namespace ng {
 namespace {
@@ -22,6 +23,12 @@ PhaseLabel::PhaseLabel(QWidget* parent) : QLabel(parent) {
   setFixedHeight(kHeight);
   setIndent(kPadding);
   setFont(InterfaceFont(kSizes.front(), true));
+}
+
+void PhaseLabel::ShowText(const std::string& text) {
+  const QString shown = ToQString(text);
+  if (QLabel::text() != shown) setText(shown);
+  FitFont();
 }
 
 void PhaseLabel::FitFont() {

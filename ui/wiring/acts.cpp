@@ -13,6 +13,7 @@
 #include "app/commands.h"
 #include "ui/widgets/note_edit.h"
 #include "ui/wiring/code_page_input.h"
+#include "ui/wiring/copies.h"
 #include "ui/wiring/text.h"
 
 namespace ng {
@@ -40,13 +41,7 @@ class Connector {
   /// The act's control for a widget: the command's name, empty when no command is named after it.
   WidgetName CommandOf(const QWidget& widget, const char* event = "") const {
     WidgetName name = ParseWidgetName(widget.objectName());
-    if (const std::string own = prefix_ + name.control + event; FindCommand(own) != nullptr) {
-      name.control = own;
-      return name;
-    }
-    if (!name.control.ends_with('2')) return {};
-    name.control.pop_back();
-    name.control = prefix_ + name.control + event;
+    name.control = prefix_ + std::string(ControlOf(name.control)) + event;
     return FindCommand(name.control) == nullptr ? WidgetName() : name;
   }
 
@@ -109,12 +104,6 @@ class Connector {
                          QTreeWidgetItem* item = tree.selectedItems().constFirst();
                          perform({select.control, tree.indexOfTopLevelItem(item), {}});
                        });
-      // Enter and a double click show the details of the line.
-      QObject::connect(&tree, &QTreeWidget::itemActivated, &owner_,
-                       [select, &tree, perform = perform_](QTreeWidgetItem* item) {
-                         perform({select.control, tree.indexOfTopLevelItem(item), {}});
-                         perform({"mnuViewInfo"});
-                       });
     }
   }
 
@@ -138,9 +127,10 @@ class Connector {
     const WidgetName name = CommandOf(combo);
     if (name.control.empty()) return;
     // Whatever the user chooses, even the entry that is chosen already.
-    QObject::connect(&combo, &QComboBox::activated, &owner_, [name, perform = perform_](int entry) {
-      perform({name.control, entry, {}});
-    });
+    QObject::connect(&combo, &QComboBox::activated, &owner_,
+                     [name, &combo, perform = perform_](int entry) {
+                       perform({name.control, entry, FromQString(combo.itemText(entry))});
+                     });
   }
 
   QObject& owner_;

@@ -22,9 +22,9 @@ struct WidgetName {
 WidgetName ParseWidgetName(const QString& objectName);
 
 /// Connects every widget below `window` that a command is named after to the command's act. The
-/// widgets' names have `prefix` before them in the acts of this window: "ngdr." or nothing. A
-/// second copy of a control, named with a "2" after it, does what the first one does. Check boxes
-/// and check marks do not change by themselves: the form decides and is painted afterwards.
+/// widgets' names have `prefix` before them in the acts of this window: "ngdr." or nothing. A copy
+/// of a control does what the first one does. Check boxes and check marks do not change by
+/// themselves: the form decides and is painted afterwards.
 /// The connections live as long as `owner`; nothing comes through while `painting` is set.
 void ConnectActs(QWidget& window, QObject& owner, const bool& painting, const Perform& perform,
                  const std::string& prefix);

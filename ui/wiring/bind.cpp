@@ -6,30 +6,38 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QStyle>
-#include <QTabBar>
-#include <QTabWidget>
 #include <QTextCursor>
-#include <QToolButton>
 #include <QTreeWidget>
 #include <algorithm>
+#include <exception>
 #include <utility>
 
-#include "app/commands.h"
 #include "base/number_text.h"
-#include "combat/weapons.h"
-#include "ui/widgets/damage_bar.h"
-#include "ui/widgets/initiative_grid_view.h"
 #include "ui/widgets/list_paint.h"
+#include "ui/wiring/copies.h"
+#include "ui/wiring/shows.h"
 #include "ui/wiring/text.h"
 
 namespace ng {
 namespace {
 
+/// What the widget shows in place of an empty text.
+QString OrEmptyText(const QWidget& widget, const QString& text) {
+  return text.isEmpty() ? widget.property("emptyText").toString() : text;
+}
+
+/// A notice takes room only while it has something to say.
+void HideEmpty(QWidget& widget, const QString& text) {
+  if (widget.property("hidesEmpty").toBool()) widget.setHidden(text.isEmpty());
+}
+
 void ShowLabel(QLabel& label, const QString& text) {
-  const QString shown = text.isEmpty() ? label.property("emptyText").toString() : text;
+  const QString shown = OrEmptyText(label, text);
   if (label.text() != shown) label.setText(shown);
+  HideEmpty(label, text);
 }
 
 /// The style colours the badge by its state.
@@ -41,8 +49,10 @@ void ShowBadge(QLabel& badge, TurnState state) {
   badge.style()->polish(&badge);
 }
 
-/// Sets the part that differs, so that cursor, selection and scrolling stay where they are.
-void ShowNote(QPlainTextEdit& edit, QString text) {
+/// Sets the part that differs, so that cursor, selection and scrolling stay where they are. What
+/// is only read begins at its first line.
+void ShowNote(QPlainTextEdit& edit, const QString& note) {
+  QString text = note;
   text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
   text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
   // The widget gives this blank back as a plain one.
@@ -56,7 +66,7 @@ void ShowNote(QPlainTextEdit& edit, QString text) {
   while (back < shorter - front && shown[shown.size() - 1 - back] == text[text.size() - 1 - back]) {
     ++back;
   }
-  if (front == 0 && back == 0) return edit.setPlainText(text);
+  if (edit.isReadOnly() || (front == 0 && back == 0)) return edit.setPlainText(text);
   QTextCursor part(edit.document());
   part.setPosition(static_cast<int>(front));
   part.setPosition(static_cast<int>(shown.size() - back), QTextCursor::KeepAnchor);
@@ -66,7 +76,7 @@ void ShowNote(QPlainTextEdit& edit, QString text) {
 }
 
 /// Where the box is being typed into, the cursor stays before the same text.
-void ShowLine(QLineEdit& line, const QString& text) {
+void ShowBox(QLineEdit& line, const QString& text) {
   if (line.text() == text) return;
   const bool typing = line.hasFocus();
   const QString behind = line.text().mid(line.cursorPosition());
@@ -78,7 +88,6 @@ void ShowLine(QLineEdit& line, const QString& text) {
 
 /// A modifier that is not zero stands out.
 void MarkNonZero(QLineEdit& box) {
-  if (!box.objectName().startsWith(QLatin1String("txtRVar_"))) return;
   const bool counts = LeadingNumber(FromQString(box.text())) != 0;
   if (box.property("nonZero").toBool() == counts) return;
   box.setProperty("nonZero", counts);
@@ -87,169 +96,205 @@ void MarkNonZero(QLineEdit& box) {
   box.setFont(font);
 }
 
+void ShowLine(QLineEdit& line, const QString& text) {
+  ShowBox(line, OrEmptyText(line, text));
+  if (line.property("nonZero").isValid()) MarkNonZero(line);
+}
+
+void ShowButton(QAbstractButton& button, const QString& text) {
+  if (button.text() != text) button.setText(text);
+  HideEmpty(button, text);
+}
+
+void ShowTitle(QGroupBox& group, const QString& text) {
+  if (group.title() != text) group.setTitle(text);
+}
+
+template <typename Widget, void (*show)(Widget&, const QString&)>
+void ShowIn(QObject& widget, const std::string& text) {
+  show(static_cast<Widget&>(widget), ToQString(text));
+}
+
+void ShowOwnText(QObject& widget, const std::string& text) {
+  dynamic_cast<ShowsText&>(widget).ShowText(text);
+}
+
+/// The words of a menu entry are its command's; what changes is what it is about to do.
+void ShowEntry(QAction& entry, const QString& text) {
+  if (entry.statusTip() == text) return;
+  entry.setStatusTip(text);
+  const QString key = entry.shortcut().toString(QKeySequence::NativeText);
+  entry.setToolTip(QStringLiteral("%1 (%2)").arg(text, key));
+}
+
+void ShowNothing(QObject& /*widget*/, const std::string& /*text*/) {}
+
 void ShowEntries(QComboBox& combo, const std::vector<std::string>& lines) {
   combo.clear();
   for (const std::string& line : lines) combo.addItem(ToQString(line));
 }
 
-/// Returns false for a widget that has no entries to choose from.
-bool ShowIndex(QObject* widget, int chosen) {
-  if (auto* tabs = qobject_cast<QTabWidget*>(widget)) {
-    tabs->setCurrentIndex(chosen);
-  } else if (auto* strip = qobject_cast<QTabBar*>(widget)) {
-    strip->setCurrentIndex(chosen);
-  } else if (auto* combo = qobject_cast<QComboBox*>(widget)) {
-    combo->setCurrentIndex(chosen);
-  } else {
-    return false;
-  }
-  return true;
-}
-
-void ShowText(QObject* widget, const QString& text) {
-  if (auto* label = qobject_cast<QLabel*>(widget)) {
-    ShowLabel(*label, text);
-  } else if (auto* line = qobject_cast<QLineEdit*>(widget)) {
-    ShowLine(*line, text);
-    MarkNonZero(*line);
-  } else if (auto* note = qobject_cast<QPlainTextEdit*>(widget)) {
-    ShowNote(*note, text);
-  } else if (auto* group = qobject_cast<QGroupBox*>(widget)) {
-    if (group->title() != text) group->setTitle(text);
-  } else if (auto* button = qobject_cast<QToolButton*>(widget)) {
-    button->setText(text);
-    button->setVisible(!text.isEmpty());
-  }
+void ShowList(QObject* widget, const std::vector<std::string>& lines) {
+  if (auto* tree = qobject_cast<QTreeWidget*>(widget)) ShowLines(*tree, lines);
+  if (auto* list = qobject_cast<QListWidget*>(widget)) ShowLines(*list, lines);
+  if (auto* combo = qobject_cast<QComboBox*>(widget)) ShowEntries(*combo, lines);
 }
 
 }  // namespace
 
-Binder::Binder(QWidget& window, const Perform& perform, std::string prefix)
-    : window_(window), prefix_(std::move(prefix)) {
+Binder::Binder(QWidget& window, const Perform& perform, const std::string& prefix)
+    : window_(window) {
   // Names come from files and may look like mark-up.
   for (QLabel* label : window.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
-  ConnectActs(window, *this, painting_, perform, prefix_);
+  ConnectActs(window, *this, painting_, perform, prefix);
 }
 
 void Binder::Paint(const std::function<void(ControlVisitor&)>& walk) {
-  const bool first = places_.empty();
-  if (first) IndexNames();
   const bool outer = std::exchange(painting_, true);
   place_ = 0;
-  walk(*this);
+  try {
+    walk(*this);
+  } catch (const std::exception& fault) {
+    Complain(fault.what());
+  } catch (...) {
+    Complain("unknown fault");
+  }
   painting_ = outer;
-  if (first) byName_ = {};
+  byName_ = {};
+}
+
+void Binder::Complain(const char* fault) const {
+  qWarning("%s cannot be painted: %s", qPrintable(window_.objectName()), fault);
 }
 
 void Binder::IndexNames() {
   for (QObject* object : window_.findChildren<QObject*>()) {
-    if (!object->objectName().isEmpty()) byName_.insert(object->objectName(), object);
+    const auto* widget = qobject_cast<QWidget*>(object);
+    const bool elsewhere = widget != nullptr && widget->window() != &window_;
+    if (!elsewhere && !object->objectName().isEmpty()) byName_.insert(object->objectName(), object);
   }
 }
 
 std::vector<QObject*> Binder::Named(const ControlName& control) const {
-  const QString name = QString::fromLatin1(control.name);
   const QString element =
       control.index == ControlName::kSingle ? QString() : QStringLiteral("_%1").arg(control.index);
   std::vector<QObject*> found;
-  for (QObject* object : byName_.values(name + element)) found.push_back(object);
-  // The second list of a pair may be named as a copy is, and yet be a control of its own.
-  const bool own = FindCommand(prefix_ + control.name + '2') != nullptr;
-  if (own) return found;
-  for (QObject* object : byName_.values(name + QLatin1Char('2') + element)) found.push_back(object);
+  const auto find = [&](const char* name) {
+    for (QObject* object : byName_.values(QLatin1String(name) + element)) found.push_back(object);
+  };
+  find(control.name);
+  for (const auto& [name, copy] : kCopies) {
+    if (std::string_view(name) == control.name) find(copy);
+  }
   return found;
 }
 
 std::vector<QObject*> Binder::Options(const ControlName& control) const {
-  const QString name = QString::fromLatin1(control.name);
-  // The range choice is the only array of option groups; the second group's buttons go on counting.
-  const int count = static_cast<int>(kRanges);
-  const int first = control.index == ControlName::kSingle ? 0 : control.index * count;
   std::vector<QObject*> found;
-  for (int i = first; i < first + count; ++i) {
-    QObject* option = byName_.value(QStringLiteral("%1_%2").arg(name).arg(i));
+  for (int i = control.firstOption;; ++i) {
+    QObject* option =
+        byName_.value(QStringLiteral("%1_%2").arg(QLatin1String(control.name)).arg(i));
     if (option == nullptr) break;
     found.push_back(option);
   }
-  if (found.empty()) return Named(control);
-  return found;
+  return found.empty() ? Named(control) : found;
 }
 
 Binder::Place& Binder::NextPlace(const ControlName& control, Lookup lookup) {
-  if (place_ == places_.size()) places_.push_back({(this->*lookup)(control), {}, -1});
+  if (place_ < places_.size() && places_[place_].control != control) {
+    Complain((std::string(control.name) + " comes where another control was").c_str());
+    places_.resize(place_);
+  }
+  if (place_ == places_.size()) {
+    if (byName_.isEmpty()) IndexNames();
+    places_.push_back({control, (this->*lookup)(control)});
+  }
   return places_[place_++];
 }
 
+Binder::ShowText Binder::TextShower(QObject& widget) {
+  if (dynamic_cast<ShowsText*>(&widget) != nullptr) return ShowOwnText;
+  if (qobject_cast<QLabel*>(&widget) != nullptr) return ShowIn<QLabel, ShowLabel>;
+  if (qobject_cast<QLineEdit*>(&widget) != nullptr) return ShowIn<QLineEdit, ShowLine>;
+  if (qobject_cast<QPlainTextEdit*>(&widget) != nullptr) return ShowIn<QPlainTextEdit, ShowNote>;
+  if (qobject_cast<QAbstractButton*>(&widget) != nullptr) {
+    return ShowIn<QAbstractButton, ShowButton>;
+  }
+  if (qobject_cast<QGroupBox*>(&widget) != nullptr) return ShowIn<QGroupBox, ShowTitle>;
+  if (qobject_cast<QAction*>(&widget) != nullptr) return ShowIn<QAction, ShowEntry>;
+  return ShowNothing;
+}
+
 void Binder::Text(ControlName control, const std::string& text) {
-  const Place& place = NextPlace(control, &Binder::Named);
-  if (place.widgets.empty()) return;
-  const QString shown = ToQString(text);
-  for (QObject* widget : place.widgets) ShowText(widget, shown);
+  Place& place = NextPlace(control);
+  if (place.showText.empty()) {
+    for (QObject* widget : place.widgets) place.showText.push_back(TextShower(*widget));
+  }
+  for (std::size_t i = 0; i < place.widgets.size(); ++i) place.showText[i](*place.widgets[i], text);
 }
 
 void Binder::Check(ControlName control, bool checked) {
-  for (QObject* widget : NextPlace(control, &Binder::Named).widgets) {
-    if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
-      button->setChecked(checked);
-    } else if (auto* action = qobject_cast<QAction*>(widget)) {
-      action->setChecked(checked);
-    } else if (auto* label = qobject_cast<QLabel*>(widget)) {
-      if (label->isHidden() == checked) label->setVisible(checked);
+  for (QObject* object : NextPlace(control).widgets) {
+    if (object->metaObject()->indexOfProperty("checked") >= 0) {
+      object->setProperty("checked", checked);
+    } else if (auto* widget = qobject_cast<QWidget*>(object); widget->isHidden() == checked) {
+      widget->setVisible(checked);
     }
   }
 }
 
 void Binder::Choice(ControlName control, int chosen) {
-  const Place& place = NextPlace(control, &Binder::Options);
-  if (place.widgets.empty()) return;
-  if (ShowIndex(place.widgets.front(), chosen)) return;
-  if (chosen < 0 || static_cast<std::size_t>(chosen) >= place.widgets.size()) return;
-  QObject* option = place.widgets[static_cast<std::size_t>(chosen)];
-  if (auto* button = qobject_cast<QAbstractButton*>(option)) button->setChecked(true);
+  const std::vector<QObject*>& widgets = NextPlace(control, &Binder::Options).widgets;
+  if (widgets.empty()) return;
+  QObject* first = widgets.front();
+  if (auto* tree = qobject_cast<QTreeWidget*>(first)) return ShowSelection(*tree, chosen);
+  // Tabs and combo boxes.
+  constexpr const char* kIndex = "currentIndex";
+  if (first->metaObject()->indexOfProperty(kIndex) >= 0) {
+    first->setProperty(kIndex, chosen);
+  } else if (chosen >= 0 && static_cast<std::size_t>(chosen) < widgets.size()) {
+    widgets[static_cast<std::size_t>(chosen)]->setProperty("checked", true);
+  }
 }
 
 void Binder::Level(ControlName control, int boxes) {
-  Place& place = NextPlace(control, &Binder::Named);
+  Place& place = NextPlace(control);
   if (std::exchange(place.level, boxes) == boxes) return;
   for (QObject* widget : place.widgets) {
-    if (auto* bar = qobject_cast<DamageBar*>(widget)) bar->setBoxes(boxes);
+    if (auto* bar = dynamic_cast<ShowsLevel*>(widget)) bar->ShowLevel(boxes);
   }
 }
 
 void Binder::List(ControlName control, const std::vector<std::string>& lines) {
-  Place& place = NextPlace(control, &Binder::Named);
+  Place& place = NextPlace(control);
   if (place.lines == lines) return;
-  for (QObject* widget : place.widgets) {
-    if (auto* tree = qobject_cast<QTreeWidget*>(widget)) ShowLines(*tree, lines);
-    if (auto* combo = qobject_cast<QComboBox*>(widget)) ShowEntries(*combo, lines);
-  }
+  for (QObject* widget : place.widgets) ShowList(widget, lines);
   place.lines = lines;
 }
 
 void Binder::CheckList(ControlName control, const std::vector<CarriedLine>& lines) {
-  Place& place = NextPlace(control, &Binder::Named);
+  Place& place = NextPlace(control);
   std::vector<std::string> texts;
   texts.reserve(lines.size());
   for (const CarriedLine& line : lines) texts.push_back(line.text);
   const bool refill = place.lines != texts;
   for (QObject* widget : place.widgets) {
-    auto* tree = qobject_cast<QTreeWidget*>(widget);
-    if (tree == nullptr) continue;
-    if (refill) ShowLines(*tree, texts);
-    ShowMarks(*tree, lines);
+    if (refill) ShowList(widget, texts);
+    if (auto* tree = qobject_cast<QTreeWidget*>(widget)) ShowMarks(*tree, lines);
+    if (auto* list = qobject_cast<QListWidget*>(widget)) ShowMarks(*list, lines);
   }
   place.lines = std::move(texts);
 }
 
 void Binder::Turn(ControlName control, TurnState state) {
-  for (QObject* widget : NextPlace(control, &Binder::Named).widgets) {
+  for (QObject* widget : NextPlace(control).widgets) {
     if (auto* badge = qobject_cast<QLabel*>(widget)) ShowBadge(*badge, state);
   }
 }
 
-void Binder::Grid(ControlName control, const InitiativeGrid& grid) {
-  for (QObject* widget : NextPlace(control, &Binder::Named).widgets) {
-    if (auto* view = qobject_cast<InitiativeGridView*>(widget)) view->Show(grid);
+void Binder::Grid(ControlName control, const InitiativeGrid& grid, int shownRow) {
+  for (QObject* widget : NextPlace(control).widgets) {
+    if (auto* view = dynamic_cast<ShowsGrid*>(widget)) view->ShowGrid(grid, shownRow);
   }
 }
 
