@@ -230,7 +230,7 @@ void MainWindowTest::ToolbarMarksMirrorTheMenu() {
     QVERIFY2(!button.isChecked() && !action.isChecked(), mark.button);
     program_->Display(first);
     QVERIFY2(button.isChecked() && action.isChecked(), mark.button);
-    auto& menu = *qobject_cast<QMenu*>(program_->window->menuBar()->actions()[2]->menu());
+    auto& menu = *qobject_cast<QMenu*>(program_->window->menuBar()->actions()[3]->menu());
     menu.popup(program_->window->mapToGlobal(QPoint(100, 100)));
     QTRY_VERIFY(menu.isVisible());
     QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(&action).center());

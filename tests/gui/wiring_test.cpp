@@ -37,14 +37,17 @@ const Opener kOpeners[] = {{"frmMain", {}},
                            {"frmReference", {"mnuViewReference"}},
                            {"frmInfo", {"mnuViewInfo"}},
                            {"frmHelp", {"mnuHelpContents"}},
+                           {"frmHistory", {"mnuViewHistory"}},
+                           {"frmRecent", {"mnuFileRecent"}, true},
                            {"frmLoader", {"mnuFileOpen"}, true},
                            {"frmOptions", {"mnuViewOptions"}, true},
                            {"frmSelSkillLevel", {"cmdSkillPrimary"}, true}};
 
 /// Names of what is neither a control nor a command: frames, and what asks something of its own
 /// before it becomes an act.
-constexpr const char* kNeither[] = {"headerPanel", "testStrip", "toolBar",      "cmdClose",
-                                    "drvNG3",      "drvDat",    "cmdBrowseNG3", "cmdBrowseDat"};
+constexpr const char* kNeither[] = {"headerPanel",  "testStrip",    "toolBar",
+                                    "cmdClose",     "drvNG3",       "drvDat",
+                                    "cmdBrowseNG3", "cmdBrowseDat", "copyLine"};
 
 /// Modifiers that no caption, list or rule ever fills.
 constexpr const char* kUnseen[] = {"txtRVar_8", "txtRVar_9", "txtRVar_13"};

@@ -19,8 +19,9 @@ using Kind = Answer::Kind;
 Snapshot Shown(const Desk& desk) {
   Snapshot snapshot = TakeSnapshot(desk.session());
   std::erase_if(snapshot, [](const auto& value) {
-    return value.first == "mnuViewStatusBar" || value.first == "statusBar" ||
-           value.first == "mnuViewDark" || value.first == "lblJournal";
+    const std::string& name = value.first;
+    return name == "mnuViewStatusBar" || name == "mnuViewDark" || name == "statusBar" ||
+           name == "lblJournal" || name.starts_with("mnuEdit") || name.starts_with("frmHistory");
   });
   return snapshot;
 }

@@ -32,6 +32,28 @@ void Closed(QPainterPath& path, std::initializer_list<QPointF> points) {
   path.closeSubpath();
 }
 
+/// An arrow that bends back to the left.
+Drawing UndoArrow() {
+  Drawing d;
+  Lines(d.lines, {{9, 4.5}, {4, 9.5}, {9, 14.5}});
+  d.lines.moveTo(4, 9.5);
+  d.lines.lineTo(14, 9.5);
+  d.lines.arcTo(QRectF(9, 9.5, 10, 10), 90, -180);
+  d.lines.lineTo(9, 19.5);
+  return d;
+}
+
+/// The same to the right.
+Drawing RedoArrow() {
+  Drawing d;
+  Lines(d.lines, {{15, 4.5}, {20, 9.5}, {15, 14.5}});
+  d.lines.moveTo(20, 9.5);
+  d.lines.lineTo(10, 9.5);
+  d.lines.arcTo(QRectF(5, 9.5, 10, 10), 90, 180);
+  d.lines.lineTo(15, 19.5);
+  return d;
+}
+
 Drawing NewPage() {
   Drawing d;
   Closed(d.lines, {{6, 3.5}, {13.5, 3.5}, {18, 8}, {18, 20.5}, {6, 20.5}});
@@ -142,12 +164,14 @@ struct NamedDrawing {
   std::string_view key;
   Drawing (*draw)();
 };
-constexpr std::array<NamedDrawing, 13> kDrawings = {{{"New", NewPage},
+constexpr std::array<NamedDrawing, 15> kDrawings = {{{"New", NewPage},
                                                      {"Open", OpenFolder},
                                                      {"Reroll", Die},
                                                      {"Reset", ToTop},
                                                      {"Prev", LeftTriangle},
                                                      {"Next", RightTriangle},
+                                                     {"Undo", UndoArrow},
+                                                     {"Redo", RedoArrow},
                                                      {"ClearFlag", CrossedFlag},
                                                      {"Delay", Clock},
                                                      {"Disable", CircleWithSlash},
