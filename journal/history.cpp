@@ -59,8 +59,8 @@ void History::Follow(const JournalHead& head, const Timeline& timeline, const St
 
 void History::Tell(const Entry& entry, const Steps& steps) {
   const std::size_t index = place_->entries;
-  const Steps::Step* begun = steps.BeginningAt(index);
-  if (begun != nullptr) {
+  const std::optional<Steps::Name> begun = steps.BeginningAt(index);
+  if (begun) {
     if (open_) EndStep();
     before_ = stage_->session().main.fight;
     step_ = {false, HourOf(entry), begun->who, begun->words, {}, 0, before_.CurrentPCpointer};
@@ -71,7 +71,7 @@ void History::Tell(const Entry& entry, const Steps& steps) {
   const MainForm& main = stage_->session().main;
   step_.entries = index + 1;
   // A step of the turn is about whoever has it now.
-  if (begun != nullptr && begun->who.empty() && main.fight.SeqNum != before_.SeqNum) {
+  if (begun && begun->who.empty() && main.fight.SeqNum != before_.SeqNum) {
     step_.who = main.fight.RecordOf(main.fight.CurrentPCpointer).Name;
     step_.slot = main.fight.CurrentPCpointer;
   }

@@ -9,14 +9,12 @@
 namespace ng {
 namespace {
 
-/// What the act does, in the words of its command.
-std::string WordsOf(const Act& act) {
-  const Command* command = FindCommand(act.control);
-  if (command == nullptr) return act.control;
-  std::string words = PlainWords(command->text);
-  if (words.empty()) return act.control;
-  words = Replaced(words, "{track}", act.index == 0 ? "physical" : "stun");
-  return Replaced(words, "{hand}", act.index == 0 ? "primary" : "secondary");
+/// What such an act does, in the words of its command.
+std::string WordsOf(const Command& command, int element) {
+  std::string words = PlainWords(command.text);
+  if (words.empty()) return command.name;
+  words = Replaced(words, "{track}", element == 0 ? "physical" : "stun");
+  return Replaced(words, "{hand}", element == 0 ? "primary" : "secondary");
 }
 
 /// Acts of the whole table bear no combatant's name.
@@ -24,14 +22,8 @@ bool IsAboutTheDisplayed(const Command& command) {
   return command.menu == Menu::None || command.menu == Menu::Combatant;
 }
 
-/// Whom the step is about, empty for the whole table.
-std::string WhoOf(const Act& act, const std::string& displayed) {
-  const Command* command = FindCommand(act.control);
-  return command != nullptr && IsAboutTheDisplayed(*command) ? displayed : std::string();
-}
-
-std::string NameOf(const Steps::Step& step) {
-  return step.who.empty() ? step.words : step.who + ", " + step.words;
+std::string Joined(const Steps::Name& name) {
+  return name.who.empty() ? name.words : name.who + ", " + name.words;
 }
 
 std::vector<Integer> Counters(const Fight& fight) {
@@ -83,7 +75,10 @@ bool Steps::Changed(const Session& session, const Act& act, bool refused) {
 void Steps::Add(const Act& act, std::size_t entry) {
   steps_.resize(done_);
   if (goesOn_) return;
-  steps_.push_back({entry, WhoOf(act, who_), WordsOf(act)});
+  const Command* command = FindCommand(act.control);
+  steps_.push_back({static_cast<std::uint32_t>(entry),
+                    IsAboutTheDisplayed(*command) ? NumberOf(who_) : std::uint16_t{0},
+                    static_cast<std::int16_t>(act.index), command});
   done_ = steps_.size();
 }
 
@@ -94,19 +89,35 @@ void Steps::Clear() {
 }
 
 std::string Steps::UndoName() const {
-  return CanUndo() ? NameOf(steps_[done_ - 1]) : std::string();
+  return CanUndo() ? Joined(NameOf(steps_[done_ - 1])) : std::string();
 }
 
-std::string Steps::RedoName() const { return CanRedo() ? NameOf(steps_[done_]) : std::string(); }
+std::string Steps::RedoName() const {
+  return CanRedo() ? Joined(NameOf(steps_[done_])) : std::string();
+}
 
 std::size_t Steps::EntriesAfterRedo(std::size_t size) const {
   return done_ + 1 < steps_.size() ? steps_[done_ + 1].first : size;
 }
 
-const Steps::Step* Steps::BeginningAt(std::size_t entry) const {
-  const auto step = std::ranges::lower_bound(steps_, entry, {}, &Step::first);
-  return step != steps_.end() && step->first == entry ? &*step : nullptr;
+Steps::Name Steps::NameOf(const Step& step) const {
+  return {names_[step.who], WordsOf(*step.command, step.element)};
 }
+
+std::uint16_t Steps::NumberOf(const std::string& who) {
+  const auto found = std::ranges::find(names_, who);
+  const auto number = found - names_.begin();
+  if (found == names_.end()) names_.push_back(who);
+  return static_cast<std::uint16_t>(number);
+}
+
+std::optional<Steps::Name> Steps::BeginningAt(std::size_t entry) const {
+  const auto step = std::ranges::lower_bound(steps_, entry, {}, &Step::first);
+  if (step == steps_.end() || step->first != entry) return {};
+  return NameOf(*step);
+}
+
+std::size_t Steps::Bytes() const { return steps_.capacity() * sizeof(Step); }
 
 void Steps::MoveTo(std::size_t entries) {
   done_ = 0;

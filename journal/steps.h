@@ -1,10 +1,12 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "app/commands.h"
 #include "app/session.h"
 
 namespace ng {
@@ -33,18 +35,34 @@ class Steps {
   /// So many entries are done now.
   void MoveTo(std::size_t entries);
 
-  struct Step {
-    /// Its first entry.
-    std::size_t first = 0;
+  /// What a step is called.
+  struct Name {
     /// Empty for a step of the whole table.
     std::string who;
     std::string words;
   };
-  /// The step that begins with this entry, null when none does.
-  const Step* BeginningAt(std::size_t entry) const;
+  /// The name of the step that begins with this entry; nothing when none does.
+  std::optional<Name> BeginningAt(std::size_t entry) const;
+  /// Bytes in memory.
+  std::size_t Bytes() const;
 
  private:
+  /// Small, since there are as many as acts.
+  struct Step {
+    /// Its first entry.
+    std::uint32_t first = 0;
+    /// Index into `names_`.
+    std::uint16_t who = 0;
+    /// The act's index.
+    std::int16_t element = 0;
+    const Command* command = nullptr;
+  };
+  Name NameOf(const Step& step) const;
+  std::uint16_t NumberOf(const std::string& who);
+
   std::vector<Step> steps_;
+  /// Whom steps are about; the first, without a name, is the whole table.
+  std::vector<std::string> names_{{}};
   std::size_t done_ = 0;
   std::string who_;
   PlayerRecord displayed_;

@@ -16,7 +16,7 @@ void Timeline::Add(std::string_view lines) {
     ++generation_;
   }
   text_.append(lines);
-  ends_.push_back(text_.size());
+  ends_.push_back(static_cast<std::uint32_t>(text_.size()));
   cursor_ = ends_.size();
 }
 
@@ -46,7 +46,7 @@ void Timeline::ForEach(std::size_t count, Contents& contents,
 }
 
 std::size_t Timeline::Bytes() const {
-  return text_.capacity() + ends_.capacity() * sizeof(std::size_t);
+  return text_.capacity() + ends_.capacity() * sizeof(ends_[0]);
 }
 
 }  // namespace ng

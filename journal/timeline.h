@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -47,7 +48,7 @@ class Timeline {
  private:
   std::string text_;
   /// Where each entry's lines end.
-  std::vector<std::size_t> ends_;
+  std::vector<std::uint32_t> ends_;
   std::size_t cursor_ = 0;
   int generation_ = 0;
 };

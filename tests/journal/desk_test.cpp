@@ -268,6 +268,15 @@ TEST(Desk, TwentyJournalsAreKeptAndNoneThatIsOpen) {
   EXPECT_EQ(names[1], "2026-10-17 10-00-00.ngj");
 }
 
+TEST(Desk, ALongFightIsSmallInMemory) {
+  TestMachine machine;
+  TestDesk run(machine);
+  BeginFight(run);
+  for (int i = 0; i < 3000; ++i) run.Do(i % 2 == 0 ? "cmdIncrease" : "cmdReduce", i / 2 % 2);
+  const std::size_t kept = run.desk.timeline().Bytes() + run.desk.steps().Bytes();
+  EXPECT_LT(kept, 2 * machine.journals.files.begin()->second.size());
+}
+
 /// Does one act of any command at random, with answers to whatever it may ask.
 class Monkey {
  public:

@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QTreeWidget>
 
 #include "ui/look/layout_kit.h"
@@ -17,6 +18,20 @@ namespace {
 
 constexpr QSize kSize(760, 640);
 constexpr QSize kLeastSize(560, 400);
+
+/// Headings are bold, and what was undone is set in italics.
+class LineDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (index.siblingAtColumn(0).data().toString().isEmpty()) option->font.setBold(true);
+    const QString what = index.siblingAtColumn(2).data().toString();
+    if (what.startsWith(QLatin1String("Taken back"))) option->font.setItalic(true);
+  }
+};
 
 }  // namespace
 
@@ -28,6 +43,7 @@ HistoryWindow::HistoryWindow(const Perform& perform, QWidget* parent)
   resize(kSize);
   setMinimumSize(kLeastSize);
   lines_->setProperty("showsEnd", true);
+  lines_->setItemDelegate(new LineDelegate(lines_));
   connect(lines_, &QTreeWidget::itemActivated, this, [this] { Do({"frmHistory.cmdShow"}); });
   auto* copy = new QAction(lines_);
   copy->setShortcut(QKeySequence::Copy);
