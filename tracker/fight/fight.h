@@ -63,17 +63,17 @@ struct Fight {
   /// The grid row that was green last and is painted white again at the end of the turn.
   OrderPosition lastGreen;
 
-  /// The record of a slot; record 0, nobody's, for a number outside the table, which a damaged state
-  /// file may hold. For what is shown: nothing that a window shows ends a command.
+  /// The record of a slot; record 0, nobody's, for a number outside the table, which a damaged
+  /// state file may hold. For what is shown: nothing that a window shows ends a command.
   const PlayerRecord& RecordOf(Slot slot) const;
   /// The number of slots whose `Name` is not empty.
   Integer CountPlayers() const;
   /// Stores that number as `NumPlayers`; due whenever a combatant has come or gone.
   void Recount() { NumPlayers = CountPlayers(); }
-  /// The first order position that holds `slot`, or 0; slot 0 stands in no position.
+  /// The first order position that holds `slot`, or 0; slot 0 has no position.
   OrderPosition FindInOrder(Slot slot) const;
   /// The first slot without a character sheet, or 0. "Free" goes by the sheet while CountPlayers
-  /// goes by the name; both rules are meant as they are.
+  /// goes by the name: a combatant without a name does not fight, but keeps its slot.
   Slot FindFreeSlot() const;
   void SwapOrder(OrderPosition p, OrderPosition q);
   /// Opens a pass: clears `TurnDone` on slots 1 to CountPlayers(), by slot and not by position, so
