@@ -89,7 +89,7 @@ TEST(Grid, TypingEditsTheCellAndTheRollAtOnce) {
   EXPECT_EQ(program.prompts.log, (std::vector<std::string>{"message \"Overflow\""}));
   // A row whose place in the order nobody holds edits nobody.
   program.fight.InitOrder[1] = 0;
-  type("5");
+  type(".5");
   EXPECT_EQ(program.fight.Players[0], PlayerRecord{});
 }
 
