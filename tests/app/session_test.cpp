@@ -69,6 +69,25 @@ TEST(Session, TheWindowComesBackToItsPlace) {
   for (const auto& [name, edge] : kEdges) EXPECT_EQ(program.main.layout.*edge, twips += 100);
 }
 
+TEST(Session, EveryWindowBesideOpensAndCloses) {
+  TestProgram program;
+  MainForm& main = program.main;
+  program.files.Put("C:\\tracker\\ngtracker.txt", "");
+  const std::tuple<const char*, const char*, const bool&> windows[] = {
+      {"mnuViewGM", "frmGM.Close", main.frmGMOpen},
+      {"mnuViewLog", "frmDisplay.cmdClose", main.logViewer.open},
+      {"mnuViewReference", "frmReference.Close", main.reference.open},
+      {"mnuViewInfo", "frmInfo.Close", main.itemInfo.open},
+      {"mnuHelpContents", "frmHelp.Close", main.help.open},
+      {"ShowRoller", "ngdr.Hide", main.ngdr.visible}};
+  for (const auto& [opening, closing, open] : windows) {
+    for (const bool shown : {true, false}) {
+      program.Do(shown ? opening : closing);
+      EXPECT_EQ(open, shown) << opening;
+    }
+  }
+}
+
 /// A state file may hold any number. Whatever the windows show, showing it ends nothing.
 TEST(Session, EveryNumberCanBeShown) {
   for (const int number : {-32768, -1, 4, 100, 101, 500, 32767}) {
