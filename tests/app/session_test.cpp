@@ -86,6 +86,10 @@ TEST(Session, EveryWindowBesideOpensAndCloses) {
       EXPECT_EQ(open, shown) << opening;
     }
   }
+  program.session.environment.settings.DisableNGDR = true;
+  program.Do("ShowRoller");
+  EXPECT_FALSE(main.ngdr.visible);
+  EXPECT_EQ(main.statusMessage, "The dice roller is switched off in the options");
 }
 
 /// A state file may hold any number. Whatever the windows show, showing it ends nothing.
