@@ -344,6 +344,11 @@ TEST_F(FightFilesTest, NotesHaveAFileOfTheirOwnOrStayWhileTheProgramRuns) {
   EXPECT_EQ(program.main.txtNotes, "other");
   program.Do("cmdNoteLoad");
   EXPECT_EQ(program.main.txtNotes, "talks\r\nfirst ");
+  // Without a file of its own a note takes the one that it is loaded from.
+  program.Do("GridX_Click", 2);
+  program.prompts.answers.push_back({Kind::File, "D:\\a.txt", {}});
+  program.Do("cmdNoteLoad");
+  EXPECT_EQ(program.main.txtNoteFileName, "D:\\a.txt");
 }
 
 TEST_F(FightFilesTest, TheLogGrowsAndItsFailureStaysUntilSeen) {

@@ -145,9 +145,13 @@ TEST_F(Roller, TheTargetNumberFollowsTheRangeAndWhatChanges) {
   EXPECT_EQ(roller.board.txtRVar[kVisibilityBox], "7");
   roller.ClearBox(kVisibilityBox);
   EXPECT_EQ(roller.cmbVisability.index, 0);
+  // Another's eyes, in close combat, too.
+  roller.cmbVisability2_Click(1);
+  vex.natLowLight = true;
   melee = true;
   roller.txtMeleeNumber_Change("7");
   roller.tabTest_Click(TestPage::Melee);
+  EXPECT_EQ(roller.board.txtRVar[roller.cmbVisability2.box], "0");
   EXPECT_EQ(roller.txtTargetNum, "4");
 }
 
