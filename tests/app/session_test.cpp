@@ -1,10 +1,12 @@
 #include "app/session.h"
 
+#include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
 #include <new>
 #include <stdexcept>
 
+#include "app/commands.h"
 #include "fakes/test_program.h"
 #include "golden/snapshot.h"
 
@@ -90,6 +92,22 @@ TEST(Session, EveryWindowBesideOpensAndCloses) {
   program.Do("ShowRoller");
   EXPECT_FALSE(main.ngdr.visible);
   EXPECT_EQ(main.statusMessage, "The dice roller is switched off in the options");
+}
+
+TEST(Session, WhatIsTypedIsShown) {
+  TestProgram program;
+  program.Add("Ash", 9);
+  program.main.XFerPC(1);
+  for (const Command& command : Commands()) {
+    const std::string name = command.name;
+    const bool box = name.starts_with("txt") || name.starts_with("ngdr.txt");
+    if (!box || name.ends_with("_Clear")) continue;
+    program.Do(name, 1, "7");
+    const Snapshot shown = TakeSnapshot(program.session);
+    EXPECT_TRUE(std::ranges::any_of(shown, [&](const auto& control) {
+      return (control.first == name || control.first == name + " 1") && control.second == "\"7\"";
+    })) << name;
+  }
 }
 
 /// A state file may hold any number. Whatever the windows show, showing it ends nothing.

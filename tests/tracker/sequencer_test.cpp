@@ -83,6 +83,7 @@ TEST(Sequencer, StepsThroughPassesToTheEndOfTheTurn) {
   program.fight.GlobalEvents = "Ash:Rocket explodes\r\n";
   EXPECT_EQ(Step(program, "mnuTNext"), "End of turn! / Ash");
   EXPECT_EQ(program.prompts.TakeLog(), Strings{"message \"Ash:Rocket explodes%0D%0A\""});
+  EXPECT_EQ(program.fight.GlobalEvents, "");
   EXPECT_EQ(program.main.GridX.RowAt(1).colour[0], InitiativeGrid::Colour::White);
   EXPECT_EQ(Step(program, "mnuTNext"), "End of turn / Ash");
   EXPECT_EQ(program.prompts.TakeLog(), Strings{"beep"});
