@@ -107,7 +107,7 @@ void MainForm::mnuFileOpen() {
 void MainForm::Form_Drop(const std::string& names) { fightFiles.OpenFiles(FileNames(names)); }
 
 void MainForm::mnuFileExit() {
-  // What stands on the sheet is a part of the fight.
+  // What is on the sheet is a part of the fight.
   SyncSheet();
   if (fightFiles.Changed()) {
     const SaveChoice choice = environment_.prompts.AskToSave(
@@ -130,7 +130,7 @@ void MainForm::mnuViewLog() {
 
 void MainForm::cmdAddNote() { gmLog.Add(environment_.prompts.Input(" Enter your note")); }
 
-// What stands on the sheet goes into the record before a command shows the sheet anew.
+// What is on the sheet goes into the record before a command shows the sheet again.
 void MainForm::mnuTReroll() {
   SyncSheet();
   sequencer.Reroll(environment_.settings.CloneInit);

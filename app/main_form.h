@@ -47,7 +47,7 @@ struct Environment {
 
 /// Who is displayed: names, race, initiative.
 struct HeaderPanel {
-  /// The name stands on the header and on three of the pages.
+  /// The name is shown in the header and on three of the pages.
   std::string lblName2;
   std::string lblNameX;
   std::string lblNameY;
@@ -195,11 +195,11 @@ class MainForm : private SequencerHost, private DiceRoller::Weapons {
   void Fire(Weapon weapon, int rounds);
   void FullAuto(Weapon weapon);
   void cmdDisarm(Weapon weapon);
-  /// Takes the marked line of the weapon list into a hand.
+  /// Takes the selected line of the weapon list into a hand.
   void cmdSetWeapon(Weapon weapon);
-  /// Uses the marked line of the active skills.
+  /// Uses the selected line of the active skills.
   void ChooseSkill(SkillUse use);
-  /// Shows every figure of the line that was marked last in any list.
+  /// Shows every detail of the line that was selected last in any list.
   void mnuViewInfo() { itemInfo.Form_Load(); }
   /// Shows the dice roller; says in the status bar when the options have switched it off.
   void ShowRoller();

@@ -39,7 +39,7 @@ void SkillTests::ChooseSkill(SkillUse use, const std::string& line) {
   record.*slot.value = 0;
   levels_.SkillString(lblSkill);
   if (levels_.valid()) prompts_.ShowModal(ModalForm::SkillLevel);
-  // A dialog closed without a choice hands back the level chosen before; kept so.
+  // A dialog closed without a choice gives the level that was chosen last.
   record.*slot.value = levels_.SelValue;
 }
 

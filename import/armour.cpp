@@ -57,7 +57,7 @@ ArmourFigures DeriveArmour(const CharacterEntry& entry) {
     if (!line.carried) continue;
     const double ballistic = LeadingNumber(Column(line, kArmourBallistic));
     const double impact = LeadingNumber(Column(line, kArmourImpact));
-    // Half to even is meant: it is the conversion that the rule for layered armour uses.
+    // Halves go to the even number, as the rule for layered armour rounds.
     const double share = &line == main || IsBoneLace(line) ? 1 : 0.5;
     figures.ballistic += ToInteger(ballistic * share);
     figures.impact += ToInteger(impact * share);

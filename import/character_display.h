@@ -62,7 +62,8 @@ struct SheetPanel {
   /// Shows the armour fields and the weight of a record.
   void ShowArmourOf(const PlayerRecord& record);
   /// Shows freshly derived figures. Here the two modifiers are left out when they are nothing, and
-  /// the pool modifier is spaced out; ShowArmourOf writes both another way, and both are meant.
+  /// the pool modifier is spaced out; ShowArmourOf writes both another way, so the
+  /// panel tells whether the figures are fresh.
   void ShowFigures(const ArmourFigures& figures);
 
  private:

@@ -19,7 +19,7 @@ class CharacterText {
  public:
   explicit CharacterText(const ProfileFile& file) : file_(file), decoded_(DecodeNG3(file.Text())) {}
 
-  /// The value as it stands in the file.
+  /// The value as it is in the file.
   std::string_view Value(std::string_view section, std::string_view key) const {
     return file_.Value(section, key);
   }

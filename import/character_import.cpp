@@ -64,7 +64,7 @@ void TakeSlot(Fight& fight, Slot slot, PlayerRecord record) {
   if (earlier > 0) record.Name += "::" + PlainText(earlier);
   fight.Players[slot] = std::move(record);
   fight.Recount();
-  // A nameless combatant is not counted and so stands in no place of the order.
+  // A nameless combatant is not counted and so has no place in the order.
   if (!fight.Players[slot].Name.empty()) {
     fight.InitOrder[OrderPosition::From(fight.NumPlayers)] = slot;
   }

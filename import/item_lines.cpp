@@ -19,7 +19,7 @@ constexpr int kIgnored = 26;
 
 /// An item taken apart, as far as the sheet needs it.
 struct Item {
-  /// Where a field lies in `text`.
+  /// Where a field is in `text`.
   struct Place {
     std::size_t start;
     std::size_t length;
@@ -30,7 +30,7 @@ struct Item {
   Integer category;
   const GearCategory* layout = nullptr;
   /// By position, written up to the layout's last one only: clearing all for every item shows in
-  /// the time of an import. Place 0, the category's, stands for a column that is not there.
+  /// the time of an import. Place 0, the category's, is for a column that is not there.
   std::array<Place, 31> places;
 
   std::string_view Field(GearColumn column) const {

@@ -8,7 +8,7 @@
 
 namespace ng {
 
-/// Whether a file name stands for itself and is not looked for in the character directory: it holds
+/// Whether a file name is complete and is not looked for in the character directory: it holds
 /// a ":", or, in the POSIX form, begins with "/".
 bool IsAbsolute(std::string_view name);
 

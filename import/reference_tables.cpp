@@ -81,7 +81,7 @@ void TakeSkillLine(SkillTable& table, std::string_view line) {
 
 }  // namespace
 
-// The three messages differ in case and spelling, and are kept so.
+// The three messages differ in case and spelling; game masters know them this way.
 Loaded<GearTable> LoadGearTable(Files& files, const std::string& datDir) {
   Loaded<GearTable> loaded =
       LoadTable<GearTable>(files, datDir + "\\gear.dat", "Error Loading: Gear.DAT", TakeGearLine);

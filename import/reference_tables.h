@@ -29,7 +29,7 @@ enum class GearColumn {
   StrMin,
   Weight
 };
-/// Their names in the headers; the empty one stands for no column.
+/// Their names in the headers; the empty one is for no column.
 constexpr std::array<const char*, 16> kGearColumnNames = {
     "",       "Accessories", "Ammunition",   "Ballistic", "Blast", "Concealability",
     "Damage", "Impact",      "Intelligence", "Mode",      "Mount", "Rating",
@@ -41,10 +41,10 @@ struct GearCategory {
   Integer columnCount;
   /// Positions 1 to `columnCount`.
   FixedTable<std::string, 30> columns;
-  /// Where the columns of the sheet stand, 0 for those that the category has none of. Found once,
+  /// Where the columns of the sheet are, 0 for those that the category has none of. Found once,
   /// when the table is loaded, since every item of an import asks for several.
   std::array<std::size_t, kGearColumnNames.size()> positions{};
-  /// The largest of `positions`: what stands behind it need not be taken apart.
+  /// The largest of `positions`: what is behind it need not be taken apart.
   std::size_t lastPosition = 0;
 
   std::size_t PositionOf(GearColumn column) const {
@@ -117,7 +117,7 @@ inline constexpr const char* kNotFound = "Not Found";
 /// `kNotFound`.
 std::string ConvertSkill(const SkillTable& table, std::string_view name);
 
-/// Whether a weapon-type code is a melee one. "Not Found" counts as one, on purpose: a skill that
+/// Whether a weapon-type code is a melee one. "Not Found" counts as one: a skill that
 /// belongs to no weapon is fought with by hand.
 bool IsMeleeWeaponType(std::string_view code);
 

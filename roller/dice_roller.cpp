@@ -107,7 +107,7 @@ void DiceRoller::FollowPool() {
 void DiceRoller::cmdRoll() {
   dieTotals_ = {};
   const int dice = LenientInteger(txtNumDice).Value();
-  // Without dice the flag is never cleared, and the rule of one is shown; kept so.
+  // A roll without dice shows the rule of one, too: no die clears the flag.
   bool allOnes = true;
   Integer successes;
   Integer highest;
@@ -276,7 +276,7 @@ void DiceRoller::UpdateTargetNumber() {
 
 void DiceRoller::FollowCombatant() {
   const CombatantModifiers now = Brought();
-  // What the game master typed stands while nothing changes.
+  // What the game master typed stays while nothing changes.
   if (now == brought_) return;
   // Where a dodge counts the wounds, it counts what they are now.
   std::string& dodge = board.txtRVar[kBodyWoundsBox];

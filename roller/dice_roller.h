@@ -103,7 +103,7 @@ class DiceRoller {
   void cmdRoll();
 
   void txtNumDice_Change(const std::string& text);
-  /// What the game master types here stands until something that the target number is made of
+  /// What the game master types here stays until something that the target number is made of
   /// changes.
   void txtTargetNum_Change(const std::string& text) { txtTargetNum = text; }
   void txtCPx_Change(const std::string& text);

@@ -16,7 +16,7 @@ constexpr std::array<const char*, 2> kMinusTwo = {"0", "-2"};
 constexpr std::array<const char*, 3> kCover = {"0", "+4", "+8"};
 constexpr std::array<const char*, 3> kTargetMoves = {"0", "+2", "-1"};
 constexpr std::array<const char*, 5> kByTwoToEight = {"0", "+2", "+4", "+6", "+8"};
-// The fourth has no sign; kept so.
+// The fourth step is written without a sign; it counts all the same.
 constexpr std::array<const char*, 5> kUpToFour = {"0", "+1", "+2", "+3", "4"};
 constexpr std::array<const char*, 5> kDownToFour = {"0", "-1", "-2", "-3", "-4"};
 constexpr std::array<const char*, 7> kUpToSix = {"0", "+1", "+2", "+3", "+4", "+5", "+6"};
@@ -81,8 +81,8 @@ constexpr std::array<AttackerMove, 5> kAttackerMoves = {{
     {"Attacker Walking", "+1"},
 }};
 
-/// Where `text` stands among the steps, by its value, since the game master may type "4" for "+4".
-/// The end when it is none of them.
+/// Finds `text` among the steps by its value, since the game master may type "4" for "+4". The end
+/// when it is none of them.
 Steps::iterator FindStep(Steps steps, const std::string& text) {
   return std::find_if(steps.begin(), steps.end(), [&text](const char* step) {
     return LeadingNumber(step) == LeadingNumber(text);

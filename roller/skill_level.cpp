@@ -7,7 +7,7 @@
 namespace ng {
 namespace {
 
-/// What stands between the first "[" and the first "]". A "]" that is missing or stands first makes
+/// The text between the first "[" and the first "]". A "]" that is missing or comes first makes
 /// the length negative, an overflow like any other.
 std::string_view BetweenBrackets(std::string_view line, std::size_t bracket) {
   const std::size_t end = line.find(']');

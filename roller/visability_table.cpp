@@ -24,7 +24,7 @@ std::string ReadRows(VisabilityTable& table, std::string_view text) {
     if (line.empty() || line.starts_with('!')) continue;
     table.rows[table.count] = ReadRow(line);
     ++table.count;
-    // The full table is reported at once, whether or not another row follows; kept so.
+    // A full table is reported at once, whether or not another row follows: none would fit.
     if (table.count > table.rows.kLast) return "Error loading : visability.dat";
   }
   return {};
@@ -59,7 +59,7 @@ LoadedVisability LoadVisability(Files& files, const std::string& datDir) {
 
 std::string VisibilityModifier(const VisabilityRow& row, const PlayerRecord& combatant) {
   if (row.name == "Thermal Smoke") {
-    // Both lenses together are blinded by the hot smoke; natural eyes have no say, on purpose.
+    // The hot smoke blinds whoever has both lenses the most; natural eyes make no difference.
     return combatant.augLowLight && combatant.augThermographic ? "+8" : "+4";
   }
   return PlainText(row.modifiers[ColumnFor(combatant)]);

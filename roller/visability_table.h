@@ -36,7 +36,7 @@ struct LoadedVisability {
 };
 
 /// Reads visability.dat from the DATA directory `datDir`. A file that is missing, a line of fewer
-/// than six fields and a modifier that is no whole number end the loading with the runtime's text
+/// than six fields and a modifier that is no whole number end the loading with the error's text
 /// and, on a line below it, the file's path; the eleventh row, which stays, ends it with "Error
 /// loading : visability.dat", even when it is the file's last.
 LoadedVisability LoadVisability(Files& files, const std::string& datDir);

@@ -44,7 +44,7 @@ void Actions::Interrupt() {
   record.TurnDone = record.PhaseNum == fight_.PhaseCnt;
   if (record.roundcnt != fight_.RoundCount) {
     record.TurnDone = true;
-    // The sequencer's text writes "Into"; the two differ and are kept.
+    // The sequencer writes "Into": the two are different messages, each with its own text.
     prompts_.Message("SPECIAL: Delay into Next Initiative Pass");
   }
   record.PhaseNum = fight_.PhaseCnt;

@@ -15,8 +15,8 @@ namespace ng {
 /// but for the deletion, which says so.
 class Actions {
  public:
-  /// The largest number of copies that one command makes. The refusal's text says 20; the mismatch
-  /// is meant.
+  /// The largest number of copies that one command makes: one more than the refusal's text says.
+  /// Whoever asks for 21 gets them.
   static constexpr int kMostCopies = 21;
 
   Actions(Fight& fight, CharacterTable& characters, InitiativeGrid& grid, Sequencer& sequencer,
@@ -49,8 +49,8 @@ class Actions {
   void Remove();
   /// Clears a slot in place, as a hole, and rebuilds the order from the slots.
   void RemovePlayer(Slot slot);
-  /// Removes the combatants of slots CountPlayers() to 1, the last first; one that stands beyond a
-  /// hole outlasts it.
+  /// Removes the combatants of slots CountPlayers() to 1, the last first; one beyond a hole
+  /// outlasts it.
   void RemoveAll();
 
  private:

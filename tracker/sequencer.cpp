@@ -26,7 +26,7 @@ Integer Sequencer::RollInitiative(Slot slot) {
 bool Sequencer::GoesBefore(Slot b, Slot a) const {
   const PlayerRecord& second = fight_.Players[b];
   const PlayerRecord& first = fight_.Players[a];
-  // Both reactions decide whatever the combatants' modes are, and `Random` has no say.
+  // Both reactions count whatever the combatants' modes are, and `Random` breaks no tie.
   if (second.FRSLT != first.FRSLT) return second.FRSLT > first.FRSLT;
   if (second.CurReactAugmented != first.CurReactAugmented) {
     return second.CurReactAugmented > first.CurReactAugmented;
@@ -126,8 +126,8 @@ bool Sequencer::ReplayRecordedStep() {
     grid_.PaintRowYellow(fight_.FindInOrder(step.Actor()));
     lblPhase_ = "Delayed";
   }
-  // A replay never moves `LTurn`, so the sheet is that of the combatant at the current position,
-  // not necessarily the replayed one; this is meant.
+  // A replay never moves `LTurn`, so the sheet is that of whoever has the turn, and the game master
+  // can look back without losing it.
   host_.XFerPC(fight_.InitOrder[fight_.LTurn]);
   return true;
 }

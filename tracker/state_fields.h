@@ -11,11 +11,11 @@
 namespace ng {
 
 /// How a combatant's value is written to the state file and how it is read back. The two differ in
-/// places, and a restored fight shows it; that is meant so.
+/// places, since saved fights of earlier years hold it so, and a restored fight shows it.
 enum class SlotForm {
-  /// Text as it stands, both ways; a line break, which would end the value, is written as a blank.
+  /// Text as it is, both ways; a line break, which would end the value, is written as a blank.
   Plain,
-  /// Text written as it stands, but for its line breaks, and decoded when read: a "_" in it comes
+  /// Text written as it is, but for its line breaks, and decoded when read: a "_" in it comes
   /// back as a blank.
   Name,
   /// Text encoded when written, decoded when read.
@@ -49,7 +49,7 @@ struct SlotKey {
 /// rows.
 const std::vector<SlotKey>& SlotKeys();
 
-/// What stands behind the "=".
+/// What is written behind the "=".
 std::string WrittenValue(const PlayerRecord& record, const SlotKey& key);
 
 /// Stores what stood behind the "=". Type mismatch for a strict value that is no whole number;

@@ -22,7 +22,7 @@ std::vector<std::string> NamesLeftOut(const Fight& fight);
 /// Whether this is a state file: it has the section "[SystemState]".
 bool IsStateFile(const ProfileFile& file);
 
-/// How many combatants the file tells of, 0 to 100 whatever stands there.
+/// How many combatants the file holds by its own count, taken as 0 to 100 whatever the number.
 int CombatantsIn(const ProfileFile& file);
 
 /// What restoring a fight needs of the window above it.
@@ -42,8 +42,9 @@ class StateFileHost {
 /// empty table gives back the fight as it was. Returns whose character files could not be read, of
 /// several combatants of one file the first.
 ///
-/// Some values do not come back, and that is meant so: `RoundCount` and `CurrentPCpointer` are 0,
-/// `roundcnt` is 0, `Delay` says who had the turn, `inactive` and `SetGreen` are as imported.
+/// A restored fight begins a new combat turn, so some values do not come back: `RoundCount` and
+/// `CurrentPCpointer` are 0, `roundcnt` is 0, `Delay` says who had the turn, `inactive` and
+/// `SetGreen` are as imported.
 ///
 /// A runtime error names the key, and the slot where there is one, on a line below its text ("KP,
 /// slot 3"); what was read before it stays in the fight.

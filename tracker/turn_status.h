@@ -6,13 +6,13 @@
 
 namespace ng {
 
-/// Where a combatant stands in the combat turn. `Nobody` is the state of slot 0.
+/// What a combatant is doing in the combat turn. `Nobody` is the state of slot 0.
 enum class TurnState { Nobody, Waiting, OnTurn, Delayed, Inactive };
 
-/// The back colours of the grid's rows as the platform numbers them, 0xBBGGRR.
+/// The back colours of the grid's rows, 0xBBGGRR.
 enum class RowColour { White = 0xFFFFFF, Green = 0x00FF00, Yellow = 0x00FFFF, Red = 0x0000FF };
 
-/// How a state is told, and which row colour stands for it.
+/// What a state is called, and its row colour.
 struct TurnLook {
   TurnState state;
   /// What the badge says.
@@ -33,7 +33,7 @@ inline constexpr std::array<TurnLook, 5> kTurnLooks = {{
 }};
 
 const TurnLook& LookOf(TurnState state);
-/// The first state that the colour stands for; for white one that no row shows.
+/// The first state that has the colour; for white one that no row shows.
 const TurnLook& LookOf(RowColour colour);
 
 /// Being inactive goes before a delay, and both before the turn. On turn is who may act now: that

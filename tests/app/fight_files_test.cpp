@@ -51,6 +51,8 @@ class FightFilesTest : public testing::Test {
 };
 
 TEST_F(FightFilesTest, ASavedFightIsTakenUpByAnotherRun) {
+  program.fight.TurnNum = 7;
+  program.fight.Players[3].CurDamStun = 1;
   Save(program);
   EXPECT_EQ(program.main.statusMessage, "Fight saved");
   TestProgram later;
@@ -67,16 +69,39 @@ TEST_F(FightFilesTest, ASavedFightIsTakenUpByAnotherRun) {
   EXPECT_EQ(record.CurDamPhysical.Value(), 3);
   EXPECT_EQ(record.PainResistance.Value(), 1);
   EXPECT_EQ(record.RCSec, "2");
-  EXPECT_EQ(record.CondCode, "0M");
+  EXPECT_EQ(record.CondCode + later.fight.Players[3].CondCode, "0ML0");
   EXPECT_EQ(record.FRSLT.Value(), 6);
   EXPECT_EQ(later.fight.RoundCount.Value(), 1);
-  EXPECT_EQ(later.fight.SeqNum.Value(), 0);
+  EXPECT_EQ(later.fight.SeqNum.Value() + later.fight.TurnNum.Value(), 0);
   EXPECT_EQ(later.fight.LTurn, program.fight.LTurn);
   EXPECT_EQ(later.fight.CurrentPCpointer.Value(), 3);
   // Each character file was read once, and the two that came from one share a sheet.
   EXPECT_EQ(later.files.reads["c:\\chars\\ash.ng3"], 1);
   EXPECT_EQ(later.main.characters.Count().Value(), 2);
   EXPECT_EQ(later.main.sheet.lstGear.size(), 1U);
+  EXPECT_FALSE(later.main.fightFiles.Changed());
+}
+
+TEST_F(FightFilesTest, WhatAPoolButtonChangedOutlastsEveryCommand) {
+  program.prompts.answers = {{Kind::Input, "1", {}}, {Kind::File, kState, {}}};
+  // Each shows somebody else, or shows or copies or writes the one who is displayed.
+  const std::pair<const char*, const char*> commands[] = {
+      {"mnuTNext", ""},    {"mnuTReroll", ""}, {"mnuTReset", ""},
+      {"GridX_Click", ""}, {"mnuPMult", ""},   {"Form_Drop", "C:\\chars\\birch.ng3"},
+      {"mnuFileSave", ""}};
+  program.Do("mnuTPrev");
+  int karma = 0;
+  for (const auto& [command, text] : commands) {
+    program.Do("GridX_Click", 1);
+    const Slot slot = program.fight.CurrentPCpointer;
+    PlayerRecord& record = program.fight.Players[slot];
+    record.KP = ++karma;
+    program.main.XFerPC(slot);
+    program.Do("cmdKPplus");
+    program.Do(command, 2, text);
+    EXPECT_EQ(record.KP.Value(), ++karma) << command;
+  }
+  EXPECT_EQ(program.fight.Players[4].KP.Value(), 10);
 }
 
 TEST_F(FightFilesTest, AHundredOfOneFileComeBack) {
@@ -117,6 +142,10 @@ TEST_F(FightFilesTest, DroppedFilesAreOpenedTheStateFirst) {
   later.Do("Form_Drop", 0, "D:\\map.png");
   EXPECT_EQ(later.main.statusMessage, "Not a character or state file: D:\\map.png");
   EXPECT_EQ(later.fight.CountPlayers().Value(), 5);
+  // It is the file that the Open dialog finds, however its directory is written.
+  later.session.environment.settings.NG3Dir = "C:\\chars\\";
+  later.Do("Form_Drop", 0, birch);
+  EXPECT_EQ(later.fight.Players[6].Filename, "C:\\chars\\\\Birch.NG3");
 }
 
 TEST_F(FightFilesTest, AFailureLeavesTheOldFileOrWhatWasRead) {
@@ -215,8 +244,9 @@ TEST_F(FightFilesTest, ASaveNamesWhomItLeavesOut) {
   program.Do("GridX_Click", program.fight.FindInOrder(1).Value());
   program.Do("mnuPRemove");
   Save(program);
-  EXPECT_EQ(program.main.statusMessage,
-            "Fight saved. Not saved (beyond slot 2): Ash::1");
+  EXPECT_EQ(program.main.statusMessage, "Fight saved. Not saved (beyond slot 2): Ash::1");
+  program.Do("mnuFileNew");
+  EXPECT_EQ(program.main.statusMessage, "1 combatant remains beyond an empty slot");
 }
 
 TEST_F(FightFilesTest, ClosingAsksForAChangedFightOnly) {
@@ -245,6 +275,33 @@ TEST_F(FightFilesTest, ClosingAsksForAChangedFightOnly) {
   EXPECT_TRUE(program.main.closing);
 }
 
+TEST_F(FightFilesTest, RecoilIsNoChangeAndADialogMayNameNoFile) {
+  program.Do("mnuTReset");
+  program.Do("mnuTNext");
+  program.fight.Players[program.fight.CurrentPCpointer].PrimWeapStatAmmo = "30";
+  program.Do("cmdShots1");
+  program.Do("GridX_Click", 2);
+  const PlayerRecord& other = program.fight.Players[program.fight.CurrentPCpointer];
+  for (const int hand : {0, 1}) program.Do("txtTBTT", hand, "3");
+  EXPECT_EQ(other.URCPrim + other.URCSec, "22");
+  program.Do("GridX_Click", 1);
+  program.Do("cmdShots3");
+  Save(program);
+  // The burst counts for the rounds of whoever is displayed next.
+  program.Do("GridX_Click", 2);
+  program.Do("GridX_Click", 1);
+  EXPECT_EQ(other.URCPrim + other.URCSec, "33");
+  EXPECT_FALSE(program.main.fightFiles.Changed());
+
+  for (const char* command : {"mnuFileLoad", "mnuFileSave", "cmdNoteSave"}) {
+    program.prompts.TakeLog();
+    program.prompts.answers.push_back({Kind::File, "", {}});
+    program.Do(command);
+    EXPECT_EQ(program.prompts.log.size(), 1U) << command;
+    EXPECT_EQ(program.main.statusMessage, "Ready") << command;
+  }
+}
+
 TEST_F(FightFilesTest, AStateLaidOverAFightGoesOnCounting) {
   Save(program);
   Load(program);
@@ -252,6 +309,11 @@ TEST_F(FightFilesTest, AStateLaidOverAFightGoesOnCounting) {
   const auto& players = program.fight.Players;
   EXPECT_EQ(players[4].Name + " " + players[5].Name + " " + players[6].Name,
             "Ash::2 Birch::1 Ash::3");
+  // The next one is laid over what was on the sheet of a combatant that the file does not hold.
+  program.Do("GridX_Click", program.fight.FindInOrder(6).Value());
+  program.Do("cmdKPplus");
+  Load(program);
+  EXPECT_EQ(players[6].KP.Value(), 1);
 }
 
 TEST_F(FightFilesTest, NotesHaveAFileOfTheirOwnOrStayWhileTheProgramRuns) {
@@ -259,8 +321,7 @@ TEST_F(FightFilesTest, NotesHaveAFileOfTheirOwnOrStayWhileTheProgramRuns) {
   program.Do("txtNotes", 0, "talks\r\nfirst_");
   Save(program);
   EXPECT_EQ(program.main.statusMessage,
-            "Fight saved. Notes not saved (no note file): " +
-                program.main.header.lblName2);
+            "Fight saved. Notes not saved (no note file): " + program.main.header.lblName2);
   program.prompts.TakeLog();
   program.prompts.answers.push_back({Kind::Cancel, {}, {}});
   program.Do("cmdNoteSave");
@@ -272,6 +333,8 @@ TEST_F(FightFilesTest, NotesHaveAFileOfTheirOwnOrStayWhileTheProgramRuns) {
   program.prompts.answers.push_back({Kind::File, "D:\\a.txt", {}});
   program.Do("cmdNoteSave");
   EXPECT_EQ(program.files.ReadWhole("D:\\a.txt"), "talks^`first_\r\n");
+  Save(program);
+  EXPECT_EQ(program.main.statusMessage, "Fight saved");
   const Slot slot = program.fight.CurrentPCpointer;
   EXPECT_EQ(program.fight.Players[slot].NoteFileName, "D:\\a.txt");
   program.Do("txtNotes", 0, "other");
@@ -281,6 +344,11 @@ TEST_F(FightFilesTest, NotesHaveAFileOfTheirOwnOrStayWhileTheProgramRuns) {
   EXPECT_EQ(program.main.txtNotes, "other");
   program.Do("cmdNoteLoad");
   EXPECT_EQ(program.main.txtNotes, "talks\r\nfirst ");
+  // Without a file of its own a note takes the one that it is loaded from.
+  program.Do("GridX_Click", 2);
+  program.prompts.answers.push_back({Kind::File, "D:\\a.txt", {}});
+  program.Do("cmdNoteLoad");
+  EXPECT_EQ(program.main.txtNoteFileName, "D:\\a.txt");
 }
 
 TEST_F(FightFilesTest, TheLogGrowsAndItsFailureStaysUntilSeen) {

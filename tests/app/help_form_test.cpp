@@ -31,6 +31,7 @@ TEST(Help, OpensWhereItIsAskedForAndFindsWhatItIsAskedFor) {
   for (const auto& [window, title] : {std::pair{"frmGM", "Files"}, {"ngdr", "Rolling a test"}}) {
     help.Form_Load(window);
     EXPECT_TRUE(help.txtTopic.starts_with(std::string("## ") + title + "\n\n")) << title;
+    EXPECT_EQ(help.lstTopics.at(static_cast<std::size_t>(help.lstTopicsIndex)), title);
   }
 
   // What is looked for, and all that is left of the help: in a line that goes on below, with marks

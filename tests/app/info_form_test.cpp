@@ -50,10 +50,15 @@ TEST(InfoForm, ShowsEveryFigureOfTheMarkedLineAndItsEntry) {
     EXPECT_EQ(!info.txtReference.empty(), c.inReference) << c.item;
   }
 
+  program.files.Put("C:\\own.dat", "Ambidexterity-4|Both hands\n");
+  program.main.info.Load(program.files, {"C:\\own.dat"});
+  program.Do("lstEdges_Select", 0);
+  EXPECT_EQ(info.txtReference, "Both hands");
+
   // Closed, it follows no more; another combatant's line is none of these.
   program.Do("frmInfo.Close");
   program.Do("lstEdges_Select", 1);
-  EXPECT_EQ(info.lblItem, "Sister Anneke");
+  EXPECT_EQ(info.lblItem, "Ambidexterity-4");
   program.Do("Form_Drop", 0, "C:\\chars\\sable.ng3");
   EXPECT_EQ(info.Marked(SheetList::Edges), -1);
 }

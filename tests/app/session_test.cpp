@@ -1,10 +1,12 @@
 #include "app/session.h"
 
+#include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
 #include <new>
 #include <stdexcept>
 
+#include "app/commands.h"
 #include "fakes/test_program.h"
 #include "golden/snapshot.h"
 
@@ -80,6 +82,45 @@ TEST(Session, TheStatusBarCountsPassesToTheTenth) {
   };
   EXPECT_EQ(pass(10), "\"Pass 10\"");
   EXPECT_EQ(pass(11), "\"Turn over\"");
+}
+
+TEST(Session, EveryWindowBesideOpensAndCloses) {
+  TestProgram program;
+  MainForm& main = program.main;
+  program.files.Put("C:\\tracker\\ngtracker.txt", "");
+  const std::tuple<const char*, const char*, const bool&> windows[] = {
+      {"mnuViewGM", "frmGM.Close", main.frmGMOpen},
+      {"mnuViewLog", "frmDisplay.cmdClose", main.logViewer.open},
+      {"mnuViewReference", "frmReference.Close", main.reference.open},
+      {"mnuViewInfo", "frmInfo.Close", main.itemInfo.open},
+      {"mnuHelpContents", "frmHelp.Close", main.help.open},
+      {"ShowRoller", "ngdr.Hide", main.ngdr.visible}};
+  for (const auto& [opening, closing, open] : windows) {
+    for (const bool shown : {true, false}) {
+      program.Do(shown ? opening : closing);
+      EXPECT_EQ(open, shown) << opening;
+    }
+  }
+  program.session.environment.settings.DisableNGDR = true;
+  program.Do("ShowRoller");
+  EXPECT_FALSE(main.ngdr.visible);
+  EXPECT_EQ(main.statusMessage, "The dice roller is switched off in the options");
+}
+
+TEST(Session, WhatIsTypedIsShown) {
+  TestProgram program;
+  program.Add("Ash", 9);
+  program.main.XFerPC(1);
+  for (const Command& command : Commands()) {
+    const std::string name = command.name;
+    const bool box = name.starts_with("txt") || name.starts_with("ngdr.txt");
+    if (!box || name.ends_with("_Clear")) continue;
+    program.Do(name, 1, "7");
+    const Snapshot shown = TakeSnapshot(program.session);
+    EXPECT_TRUE(std::ranges::any_of(shown, [&](const auto& control) {
+      return (control.first == name || control.first == name + " 1") && control.second == "\"7\"";
+    })) << name;
+  }
 }
 
 /// A state file may hold any number. Whatever the windows show, showing it ends nothing.

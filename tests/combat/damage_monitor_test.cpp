@@ -63,6 +63,8 @@ TEST_F(DamageTest, AWoundLowersTheScoreAndReordersAtOnce) {
   EXPECT_EQ(program.Order(), "Birch Ash");
   EXPECT_EQ(program.main.GridX.RowAt(2).text[2], "LM");
   EXPECT_EQ(ash.RRSLT.Value(), 20);
+  program.Do("cmdDamZero", kStun);
+  EXPECT_EQ(program.main.header.lblFRSLT, "18");
 }
 
 TEST_F(DamageTest, StunRunsOverIntoThePhysicalTrack) {
@@ -103,7 +105,7 @@ TEST_F(DamageTest, PainResistanceIsSpentOnStunFirst) {
     int pain, stun, physical, modifier;
   };
   for (const Case& c : {Case{4, 3, 3, 1}, Case{3, 3, 3, 2}, Case{0, 3, 3, 4}, Case{5, 10, 0, 2},
-                        Case{20, 9, 9, 0}, Case{2, 1, 14, 3}}) {
+                        Case{20, 9, 9, 0}, Case{2, 1, 14, 3}, Case{5, 0, 14, 2}}) {
     program.Do("txtPainResistance", 0, std::to_string(c.pain));
     ash.CurDamStun = c.stun;
     ash.CurDamPhysical = c.physical;
@@ -115,7 +117,7 @@ TEST_F(DamageTest, PainResistanceIsSpentOnStunFirst) {
 TEST_F(DamageTest, TracksStayWithinTheirBounds) {
   program.Do("cmdReduce", kStun);
   program.Do("cmdReduce", kPhysical);
-  EXPECT_EQ(ash.CondCode, "00");
+  EXPECT_EQ(panel.lblPDam + panel.lblSDam, "00");
   ash.CurDamPhysical = 32767;
   program.Do("cmdLDam", kPhysical);
   EXPECT_EQ(program.prompts.log.back(), "message \"Overflow\"");

@@ -28,7 +28,7 @@ class FiringTest : public testing::Test {
     sheet.attributes[0] = "5(6)";
     sheet.weapons = {{"X:Slug  pistol (PIST)\t9M\t5\tSA\t12(c)\t1", true},
                      {"Mower (old) (HMG)\t10S\t-\tFA\t40(belt)\t15", false}};
-    sheet.skills = {"Pistols\t[4/6]", "Gunnery\t[3]", "ma: kick\t[2/7]", "Unarmed\t4"};
+    sheet.skills = {"Pistols\t[4/6]", "Gunnery\t[3]", "ma: kick\t[2/7]", "Unarmed\t4", ""};
     main.characters.entries[2] = sheet;
     program.Add("Ash", 20);
     program.Add("Birch", 18);
@@ -189,6 +189,7 @@ TEST_F(FiringTest, WeaponsComeFromTheListAndGo) {
   main.rangeTable = {};
   Ready("cmdSetPrim", 1);
   EXPECT_EQ(panel.lblPRng, (std::array<std::string, 4>{}));
+  EXPECT_EQ(ClassCode("Slug pistol (PIST"), "");
   program.Do("cmdDisarm", 1);
   EXPECT_EQ(panel.lblTNMod, "Mod:+0");
   EXPECT_EQ(panel.lblDamage[1] + panel.lblConceal[1] + panel.lblAmmo[1] + panel.lblSRng[0], "");
@@ -206,6 +207,7 @@ TEST_F(FiringTest, SkillsAreChosenAndHandedOver) {
   Choose("cmdSkillSecondary", 1);
   const PlayerRecord before = ash;
   for (const int row : {0, 3, 4}) Choose("cmdMeleeSkill", row);
+  Choose("cmdSkillPrimary", 4);  // an empty line is no skill
   EXPECT_EQ(ash, before);
   Choose("cmdMeleeSkill", 2, specialisation);
 
@@ -245,6 +247,14 @@ TEST_F(FiringTest, DiceInATestStayTheirOwners) {
   EXPECT_EQ(roller.txtCPx, std::to_string(before - 2));
   program.Do("ngdr.cmdRoll");
   EXPECT_EQ(main.pools.txtCP, std::to_string(before - 2));
+  // A die lost elsewhere while all are in the test leaves none, not less.
+  for (int die = before - 2; die > 0; --die) program.Do("ngdr.cmdCPplusMinus", 0);
+  program.Do("cmdCPnegative");
+  EXPECT_EQ(roller.txtCPx, "0");
+  // Nor are dice left in the box when their owner is gone.
+  program.Do("ngdr.txtCPx", 0, "9");
+  program.Do("mnuPRemove");
+  EXPECT_EQ(roller.txtCPx, "0");
 }
 
 TEST_F(FiringTest, AnOpenTestIsItsShootersWhoeverIsDisplayed) {

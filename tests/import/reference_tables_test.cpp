@@ -85,8 +85,9 @@ TEST(SkillTable, TheFirstTextThatTheNameContainsDecides) {
   EXPECT_EQ(ConvertSkill(loaded.table, "Pistols"), "ALL");
   EXPECT_EQ(ConvertSkill(SkillTable{}, "Pistols"), "Not Found");
 
-  files.Put("D:\\skilconv.dat", Lines(65, "A|b"));
+  files.Put("D:\\skilconv.dat", Lines(64, "A|b") + "LAST|Whip");
   EXPECT_EQ(LoadSkillTable(files, "D:").message, "");
+  EXPECT_EQ(ConvertSkill(LoadSkillTable(files, "D:").table, "Whips"), "LAST");
   for (const std::string& bad : {Lines(66, "A|b"), std::string("A|b\n\n"), std::string("A")}) {
     files.Put("D:\\skilconv.dat", bad);
     EXPECT_EQ(LoadSkillTable(files, "D:").message, kLead + "Error loading: Skillconv.dat") << bad;

@@ -137,9 +137,21 @@ TEST_F(Roller, TheTargetNumberFollowsTheRangeAndWhatChanges) {
   EXPECT_EQ(roller.txtTargetNum, "9.5");
   roller.ClearBox(kAttackerMoveBox);
   EXPECT_EQ(roller.lblSum, "Base 4.5  +  modifiers -1  =  3.5");
+  EXPECT_EQ(roller.cmbAttackerMove, 0);
+  // What is typed over the light stays, and with its box emptied the light is chosen no more.
+  roller.cmbVisability_Click(1);
+  roller.txtRVar_Change(kVisibilityBox, "7");
+  roller.tabTest_Click(TestPage::Ranged);
+  EXPECT_EQ(roller.board.txtRVar[kVisibilityBox], "7");
+  roller.ClearBox(kVisibilityBox);
+  EXPECT_EQ(roller.cmbVisability.index, 0);
+  // Another's eyes, in close combat, too.
+  roller.cmbVisability2_Click(1);
+  vex.natLowLight = true;
   melee = true;
   roller.txtMeleeNumber_Change("7");
   roller.tabTest_Click(TestPage::Melee);
+  EXPECT_EQ(roller.board.txtRVar[roller.cmbVisability2.box], "0");
   EXPECT_EQ(roller.txtTargetNum, "4");
 }
 
@@ -149,6 +161,8 @@ TEST_F(Roller, DiceMoveBetweenTheBoxesAndNeverBelowNothing) {
     roller.cmdCPplusMinus(index);
     EXPECT_EQ(roller.txtNumDice + "/" + roller.txtCPx, expected);
   }
+  roller.txtNumDice = "99999";
+  EXPECT_EQ(roller.OddsLine(), "");
   for (const auto& [typed, less] : {std::pair{"3x", "2"}, {"", "0"}, {"2.5", "1"}}) {
     roller.txtNumDice_Change(typed);
     roller.cmdDicePlusMinus(1);

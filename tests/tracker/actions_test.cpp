@@ -77,6 +77,48 @@ TEST_F(ActionsTest, ADelayOfAnEarlierTurnEndsWithItsMessage) {
   EXPECT_FALSE(static_cast<bool>(Of(1).Delay));
 }
 
+TEST_F(ActionsTest, ADelayGoesThroughThePassesUntilItIsUsedOrTheTurnBegins) {
+  const auto next = [this] {
+    program.Do("mnuTNext");
+    return program.main.sequencer.lblPhase() + " " + program.main.header.lblName2;
+  };
+  Of(2).RRSLT = 18;
+  program.Do("mnuTReset");
+  EXPECT_EQ(next(), "NEW-Phase: 1 Birch");
+  EXPECT_EQ(next(), "NEW-Phase: 1 Ash");
+  program.Do("mnuPDelay");
+  EXPECT_EQ(next(), "NEW-Phase: 1 Cedar");
+  EXPECT_EQ(next(), "NEW-Phase: 2 Birch");
+  // Held since pass 1, the action is used in pass 2, whose own action Ash still has.
+  program.Do("GridX_Click", 2);
+  program.Do("mnuPDelay");
+  EXPECT_EQ(Of(1).PhaseNum.Value(), 2);
+  EXPECT_EQ(next(), "NEW-Phase: 2 Birch");
+  EXPECT_EQ(next(), "NEW-Phase: 2 Ash");
+  program.Do("mnuPDelay");
+  program.Do("mnuPInactive");
+  EXPECT_EQ(Of(1).PhaseNum.Value(), 0);
+  program.uniform.RepeatFace(1);
+  program.Do("mnuPInactive");
+
+  // Taken up in the next pass and declared again, it is met once in each.
+  Of(1).RRSLT = 15;
+  program.Do("mnuTReset");
+  EXPECT_EQ(next(), "NEW-Phase: 1 Birch");
+  EXPECT_EQ(next(), "NEW-Phase: 1 Ash");
+  program.Do("mnuPDelay");
+  for (const char* step : {"NEW-Phase: 1 Cedar", "NEW-Phase: 2 Birch", "Phase: 2 Ash"}) {
+    EXPECT_EQ(next(), step);
+  }
+  EXPECT_EQ(Of(1).PhaseNum.Value(), 2);
+  program.Do("mnuPDelay");
+  EXPECT_EQ(next(), "Phase: 3 Ash");
+  program.Do("mnuPDelay");
+  program.Do("mnuTReset");
+  EXPECT_EQ(next(), "NEW-Phase: 1 Birch");
+  EXPECT_EQ(next(), "NEW-Phase: 1 Ash");
+}
+
 TEST_F(ActionsTest, InactiveCombatantsLoseTheirRollAndComeBackWithAFreshOne) {
   program.Do("GridX_Click", 2);
   Of(2).CurInitAugmented = 1;
@@ -99,6 +141,7 @@ TEST_F(ActionsTest, GrenadesAndRocketsGoOffWhenTheyShould) {
   for (const char* command : {"mnuPGrenade", "mnuPRocket"}) {
     EXPECT_EQ(Shown(command),
               Strings{"message \"Grenade attacks can only occur on that character's turn\""});
+    EXPECT_EQ(program.main.statusMessage, "Ready");
   }
   program.Do("mnuTNext");
   program.Do("mnuPGrenade");
@@ -109,17 +152,28 @@ TEST_F(ActionsTest, GrenadesAndRocketsGoOffWhenTheyShould) {
   program.Do("mnuPGrenade");
   EXPECT_EQ(Of(2).Events, "Birch:Grenade toss/fired explodes.#1\r\n");
   program.Do("mnuPRocket");
+  program.Do("mnuPRocket");
   EXPECT_EQ(Shown("mnuTNext"), Strings{});  // Cedar
   EXPECT_EQ(Shown("mnuTNext"), Strings{});  // Ash in pass 2
-  EXPECT_EQ(Shown("mnuTNext"), Strings{"message \"Birch:Rocket explodes%0D%0A\""});
+  EXPECT_EQ(Shown("mnuTNext"),
+            Strings{"message \"Birch:Rocket explodes%0D%0ABirch:Rocket explodes%0D%0A\""});
   program.Do("mnuTReset");
   EXPECT_EQ(Shown("mnuTNext"), Strings{"message \"Ash:Grenade toss/fired explodes.#1%0D%0A"
                                        "Ash:Grenade toss/fired explodes.#2%0D%0A\""});
   const Strings log = {"Ash expended a grenade.", "Ash expended a grenade.",
-                       "Birch expended a grenade.", "Birch expended a rocket."};
+                       "Birch expended a grenade.", "Birch expended a rocket.",
+                       "Birch expended a rocket."};
   EXPECT_EQ(program.main.gmLog.lstGMinfo(), log);
   EXPECT_TRUE(program.files.ReadWhole("C:\\tracker\\ngtracker.txt")
-                  .ends_with("Birch expended a grenade.\r\nBirch expended a rocket.\r\n"));
+                  .ends_with("Birch expended a rocket.\r\nBirch expended a rocket.\r\n"));
+  // A combat turn begun by hand has forgotten the rockets of the one before.
+  program.Do("mnuPRocket");
+  program.Do("mnuTReset");
+  program.prompts.TakeLog();
+  for (int step = 0; step < 5; ++step) program.Do("mnuTNext");
+  EXPECT_EQ(program.prompts.TakeLog(),
+            Strings{"message \"Birch:Grenade toss/fired explodes.#1%0D%0A\""});
+  EXPECT_EQ(program.main.sequencer.lblPhase(), "End of turn!");
 }
 
 TEST_F(ActionsTest, CopiesAreWholeAndTheirNumberIsHeldToItsRange) {

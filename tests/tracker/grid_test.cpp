@@ -87,6 +87,10 @@ TEST(Grid, TypingEditsTheCellAndTheRollAtOnce) {
   program.Do("GridX_Roll", 1);
   type("99999");
   EXPECT_EQ(program.prompts.log, (std::vector<std::string>{"message \"Overflow\""}));
+  // A row whose place in the order nobody holds edits nobody.
+  program.fight.InitOrder[1] = 0;
+  type(".5");
+  EXPECT_EQ(program.fight.Players[0], PlayerRecord{});
 }
 
 TEST(Grid, TypingCanBeTakenBackUntilTheCellIsLeft) {

@@ -83,10 +83,15 @@ TEST(Sequencer, StepsThroughPassesToTheEndOfTheTurn) {
   program.fight.GlobalEvents = "Ash:Rocket explodes\r\n";
   EXPECT_EQ(Step(program, "mnuTNext"), "End of turn! / Ash");
   EXPECT_EQ(program.prompts.TakeLog(), Strings{"message \"Ash:Rocket explodes%0D%0A\""});
+  EXPECT_EQ(program.fight.GlobalEvents, "");
   EXPECT_EQ(program.main.GridX.RowAt(1).colour[0], InitiativeGrid::Colour::White);
   EXPECT_EQ(Step(program, "mnuTNext"), "End of turn / Ash");
   EXPECT_EQ(program.prompts.TakeLog(), Strings{"beep"});
   EXPECT_EQ(program.fight.TurnHistory[5].Turn.Value(), 100);
+  // A step back and the end again: nobody has the turn there.
+  EXPECT_EQ(Step(program, "mnuTPrev"), "History-Phase: 3 / Ash");
+  EXPECT_EQ(Step(program, "mnuTNext"), "End of turn / Ash");
+  EXPECT_EQ(program.main.GridX.RowAt(1).colour[0], InitiativeGrid::Colour::White);
   EXPECT_EQ(Step(program, "mnuTReset"), "Beginning of turn: Phase 0 / Ash");
   EXPECT_EQ(program.fight.RoundCount.Value(), 2);
   EXPECT_EQ(program.fight.TurnHistory[1].Turn.Value(), 0);
@@ -193,11 +198,12 @@ TEST(Sequencer, CountersStartAnewAndPoolsFillAtTheTurn) {
   program.main.characters.entries[1].spellPool = "4";
   ash.ArmorCPmod = 8;
   ash.SD = 3;
+  ash.TBTTPrim = "2";
   ash.TBTTSec = "3";
   program.Do("mnuTReset");
   EXPECT_EQ(ash.CP.Value(), 0);
   EXPECT_EQ(ash.SP.Value(), 1);
-  EXPECT_EQ(ash.TBTTSec, "0");
+  EXPECT_EQ(ash.TBTTPrim + ash.TBTTSec, "00");
   ash.Resumed = true;
   ash.TBTTPrim = "5";
   program.Do("mnuTNext");
@@ -293,6 +299,8 @@ TEST(MainForm, EditsGoIntoTheRecordOfTheDisplayed) {
   EXPECT_EQ(program.main.txtNotes, "runs\r\nfast");
   EXPECT_EQ(program.main.weapons.optRangeSel[1], 2);
   EXPECT_EQ(ash, edited);
+  program.Do("chkTwoGuns");
+  EXPECT_EQ(ash.TwoGuns.Value(), 0);
   program.Do("txtRC", 2, "1");
   EXPECT_EQ(program.prompts.log.back(), "message \"Subscript out of range\"");
 }

@@ -70,10 +70,10 @@ struct Fight {
   Integer CountPlayers() const;
   /// Stores that number as `NumPlayers`; due whenever a combatant has come or gone.
   void Recount() { NumPlayers = CountPlayers(); }
-  /// The first order position that holds `slot`, or 0; slot 0 stands in no position.
+  /// The first order position that holds `slot`, or 0; slot 0 has no position.
   OrderPosition FindInOrder(Slot slot) const;
   /// The first slot without a character sheet, or 0. "Free" goes by the sheet while CountPlayers
-  /// goes by the name; both rules are meant as they are.
+  /// goes by the name: a combatant without a name does not fight, but keeps its slot.
   Slot FindFreeSlot() const;
   void SwapOrder(OrderPosition p, OrderPosition q);
   /// Opens a pass: clears `TurnDone` on slots 1 to CountPlayers(), by slot and not by position, so
