@@ -36,7 +36,8 @@ class Steps {
   struct Step {
     /// Its first entry.
     std::size_t first = 0;
-    /// Empty for a step of the whole table.
+    /// Whom it is about; 0 and empty for the whole table.
+    Slot slot;
     std::string who;
     std::string words;
   };
@@ -46,6 +47,7 @@ class Steps {
  private:
   std::vector<Step> steps_;
   std::size_t done_ = 0;
+  Slot slot_;
   std::string who_;
   PlayerRecord displayed_;
   std::vector<Integer> counters_;
