@@ -126,6 +126,12 @@ void Desk::Keep(const NewEntry& added) {
   writer_.WriteEntry(lines, contents_, added.contents);
 }
 
+void Desk::Forget(const std::vector<NewEntry>& looks) {
+  for (const NewEntry& look : looks) {
+    for (const std::string& digest : look.contents) contents_.erase(digest);
+  }
+}
+
 FightSummary Desk::Summary() const {
   const MainForm& main = session().main;
   return {main.fight.CountPlayers().Value(), main.fight.RoundCount.Value(),
@@ -145,7 +151,7 @@ void Desk::GoTo(std::size_t entries) {
   const Looks looks = Looks::Of(session());
   // What the disk holds does not change with the fight.
   const OnDisk onDisk = session().main.fightFiles.onDisk();
-  waiting_.clear();
+  Forget(std::exchange(waiting_, {}));
   timeline_.SetCursor(entries);
   PlayTo(entries);
   looks.GiveTo(session());

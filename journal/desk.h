@@ -78,6 +78,8 @@ class Desk {
 
   void Record(const Act& act, const std::function<void()>& run);
   void Keep(const NewEntry& added);
+  /// Contents that only these read are not in the journal: the next who reads them notes them.
+  void Forget(const std::vector<NewEntry>& looks);
   void PlayTo(std::size_t entries);
   void LogWhatMoved(const std::vector<std::string>& before);
   void Adopt(Journal journal);

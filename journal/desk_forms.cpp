@@ -1,6 +1,7 @@
 #include "journal/desk_forms.h"
 
 #include <algorithm>
+#include <array>
 #include <stdexcept>
 
 #include "base/runtime_error.h"
@@ -32,8 +33,13 @@ std::vector<std::string> NamesIn(const std::vector<HistoryLine>& lines) {
   return names;
 }
 
+/// "Ganger" is in "Ganger: physical 0 to 3" and not in "Ganger::3: physical 0 to 3".
 bool IsAbout(const HistoryLine& line, const std::string& name) {
-  return line.who == name || Contains(line.changes, name);
+  if (line.who == name) return true;
+  const std::string changes = "; " + line.changes;
+  return std::ranges::any_of(
+      std::to_array<const char*>({": ", " comes in", " is removed"}),
+      [&](const char* told) { return Contains(changes, "; " + name + told); });
 }
 
 /// "Undo: Brand, physical deadly wound", "Nothing to undo".

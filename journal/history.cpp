@@ -63,7 +63,7 @@ void History::Tell(const Entry& entry, const Steps& steps) {
   if (begun) {
     if (open_) EndStep();
     before_ = stage_->session().main.fight;
-    step_ = {false, HourOf(entry), begun->who, begun->words, {}, 0, before_.CurrentPCpointer};
+    step_ = {false, HourOf(entry), begun->who, begun->words, {}, 0, begun->slot};
     open_ = true;
   }
   stage_->Play(entry);

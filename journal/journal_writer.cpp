@@ -15,7 +15,6 @@ void JournalWriter::Begin(const JournalHead& head) {
 }
 
 void JournalWriter::GoOn(const std::string& name, const Journal& journal) {
-  Close();
   std::unique_ptr<DurableFile> file;
   std::string newName = NewJournalName(store_, clock_.Now());
   if (journal.end == JournalRecords::End::Damaged) {
@@ -26,6 +25,8 @@ void JournalWriter::GoOn(const std::string& name, const Journal& journal) {
     file = store_.Open(name, journal.wholeBytes);
     store_.Rename(name, newName);
   }
+  // Only now: where the other cannot be opened the fight on the desk keeps its journal.
+  Close();
   file_ = std::move(file);
   name_ = std::move(newName);
   failed_ = false;

@@ -25,7 +25,8 @@ class JournalWriter {
 
   /// Begins a journal; the one before is closed.
   void Begin(const JournalHead& head);
-  /// Goes on with a kept journal under a new name, behind its whole bytes. Throws the file errors.
+  /// Goes on with a kept journal under a new name, behind its whole bytes; the one before is
+  /// closed. Throws the file errors, and then nothing has changed.
   void GoOn(const std::string& name, const Journal& journal);
 
   /// The lines of an entry, with the contents it read that the journal does not have yet.

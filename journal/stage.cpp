@@ -1,5 +1,6 @@
 #include "journal/stage.h"
 
+#include "app/commands.h"
 #include "app/startup.h"
 #include "journal/digest.h"
 
@@ -27,8 +28,11 @@ void Stage::Set(const JournalHead& head) {
 }
 
 bool Stage::Play(const Entry& entry) {
+  const bool start = entry.act.control == kStartAct;
+  // An act that this version of the program does not know.
+  if (!start && FindCommand(entry.act.control) == nullptr) return false;
   tape.Replay(entry);
-  if (entry.act.control == kStartAct) {
+  if (start) {
     NoWindows windows;
     // A start that an error ends does so again.
     static_cast<void>(Main(*session_, windows));

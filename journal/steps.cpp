@@ -1,6 +1,7 @@
 #include "journal/steps.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "app/commands.h"
@@ -17,9 +18,18 @@ std::string WordsOf(const Command& command, int element) {
   return Replaced(words, "{hand}", element == 0 ? "primary" : "secondary");
 }
 
-/// Acts of the whole table bear no combatant's name.
-bool IsAboutTheDisplayed(const Command& command) {
-  return command.menu == Menu::None || command.menu == Menu::Combatant;
+/// Whom the act is about: the row that is typed into, the one whose test it is, and otherwise
+/// whoever is displayed; 0 for the whole table.
+Slot SubjectOf(const Session& session, const Act& act) {
+  const MainForm& main = session.main;
+  const std::string_view control = act.control;
+  const Command* command = FindCommand(control);
+  if (command == nullptr) return 0;
+  if (command->menu != Menu::None && command->menu != Menu::Combatant) return 0;
+  if (control == "Form_Drop" || control.starts_with("frmGM.")) return 0;
+  if (control.starts_with("ngdr.")) return main.ngdr.Tester();
+  if (!control.starts_with("GridX_")) return main.fight.CurrentPCpointer;
+  return main.fight.InitOrder[OrderPosition::From(main.GridX.CurrentRow())];
 }
 
 std::string Joined(const Steps::Name& name) {
@@ -32,9 +42,14 @@ std::vector<Integer> Counters(const Fight& fight) {
   return counters;
 }
 
+/// A damaged file may have left any slot.
+const PlayerRecord& RecordIn(const Fight& fight, Slot slot) {
+  const bool held = slot > 0 && slot <= Fight::kLastSlot;
+  return fight.Players[held ? slot : Slot(0)];
+}
+
 const PlayerRecord& DisplayedIn(const Fight& fight) {
-  const bool held = fight.CurrentPCpointer > 0 && fight.CurrentPCpointer <= Fight::kLastSlot;
-  return fight.Players[held ? fight.CurrentPCpointer : Slot(0)];
+  return RecordIn(fight, fight.CurrentPCpointer);
 }
 
 }  // namespace
@@ -49,7 +64,8 @@ void Steps::Before(const Session& session, const Act& act) {
   box_ = BoxOf(session, act);
   const MainForm& main = session.main;
   displayed_ = DisplayedIn(main.fight);
-  who_ = displayed_.Name;
+  slot_ = SubjectOf(session, act);
+  who_ = RecordIn(main.fight, slot_).Name;
   counters_ = Counters(main.fight);
   delayChecked_ = main.actions.delayChecked;
   inactiveChecked_ = main.actions.inactiveChecked;
@@ -75,10 +91,9 @@ bool Steps::Changed(const Session& session, const Act& act, bool refused) {
 void Steps::Add(const Act& act, std::size_t entry) {
   steps_.resize(done_);
   if (goesOn_) return;
-  const Command* command = FindCommand(act.control);
-  steps_.push_back({static_cast<std::uint32_t>(entry),
-                    IsAboutTheDisplayed(*command) ? NumberOf(who_) : std::uint16_t{0},
-                    static_cast<std::int16_t>(act.index), command});
+  steps_.push_back({static_cast<std::uint32_t>(entry), static_cast<std::int16_t>(slot_.Value()),
+                    NumberOf(who_), static_cast<std::int16_t>(act.index),
+                    FindCommand(act.control)});
   done_ = steps_.size();
 }
 
@@ -101,7 +116,7 @@ std::size_t Steps::EntriesAfterRedo(std::size_t size) const {
 }
 
 Steps::Name Steps::NameOf(const Step& step) const {
-  return {names_[step.who], WordsOf(*step.command, step.element)};
+  return {Slot::From(step.slot), names_[step.who], WordsOf(*step.command, step.element)};
 }
 
 std::uint16_t Steps::NumberOf(const std::string& who) {

@@ -37,7 +37,8 @@ class Steps {
 
   /// What a step is called.
   struct Name {
-    /// Empty for a step of the whole table.
+    /// Whom it is about; 0 and empty for the whole table.
+    Slot slot;
     std::string who;
     std::string words;
   };
@@ -51,6 +52,8 @@ class Steps {
   struct Step {
     /// Its first entry.
     std::uint32_t first = 0;
+    /// Whom it is about.
+    std::int16_t slot = 0;
     /// Index into `names_`.
     std::uint16_t who = 0;
     /// The act's index.
@@ -64,6 +67,7 @@ class Steps {
   /// Whom steps are about; the first, without a name, is the whole table.
   std::vector<std::string> names_{{}};
   std::size_t done_ = 0;
+  Slot slot_;
   std::string who_;
   PlayerRecord displayed_;
   std::vector<Integer> counters_;

@@ -1,6 +1,5 @@
 #include "journal/tape.h"
 
-#include <stdexcept>
 #include <utility>
 
 #include "journal/digest.h"
@@ -13,6 +12,11 @@ std::string DetailOf(const RuntimeError& error) {
   const std::string text = error.what();
   const std::size_t end = text.find("\r\n");
   return end == std::string::npos ? std::string() : text.substr(end + 2);
+}
+
+/// Whether a modal form was left without a choice.
+bool IsCancelled(const std::vector<Act>& acts) {
+  return acts.empty() || acts.back().control.ends_with(".cmdCancel");
 }
 
 }  // namespace
@@ -45,7 +49,6 @@ void Tape::Stop() {
 
 void Tape::NoteModalAct(const Act& act) {
   if (recorded_ == nullptr) return;
-  if (recorded_->answers.empty()) throw std::logic_error("no modal form is open");
   // The form may have asked something itself since it was opened.
   for (auto answer = recorded_->answers.rbegin(); answer != recorded_->answers.rend(); ++answer) {
     if (answer->kind != Answer::Kind::Modal) continue;
@@ -208,10 +211,13 @@ void Tape::ShowModal(ModalForm form) {
     const Answer* answer = TakeAnswer();
     if (answer == nullptr) return;
     for (const Act& act : answer->acts) perform(act);
+    refused_ = refused_ || IsCancelled(answer->acts);
     return;
   }
+  const std::size_t place = recorded_ == nullptr ? 0 : recorded_->answers.size();
   Note(Answer{Answer::Kind::Modal, {}, {}});
   real_->prompts.ShowModal(form);
+  if (recorded_ != nullptr) refused_ = refused_ || IsCancelled(recorded_->answers[place].acts);
 }
 
 void Tape::ShowProgress(std::string_view what, int done, int total) {

@@ -41,7 +41,8 @@ class Tape : public Files, public Prompts, public UserSettings {
   void Replay(const Entry& entry);
   void Stop();
 
-  /// An act of the modal form that is open while an act is recorded.
+  /// An act of the modal form that is open while an act is recorded. An input box is no form: it
+  /// may say that it left a character out, which changes nothing of the fight and is not noted.
   void NoteModalAct(const Act& act);
 
   /// Since Record or Replay: something was told or a question was cancelled.

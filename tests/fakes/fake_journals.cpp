@@ -37,14 +37,16 @@ std::unique_ptr<DurableFile> FakeJournals::Open(const std::string& name, std::si
   if (IsHeld(name)) throw RuntimeError(ErrorNumber::PermissionDenied);
   files[name].resize(bytes);
   auto file = std::make_unique<FakeDurableFile>(*this, name);
-  open_ = file.get();
+  open_[name] = file.get();
   return file;
 }
 
 void FakeJournals::Rename(const std::string& from, const std::string& to) {
   files[to] = files[from];
   files.erase(from);
-  if (IsHeld(from)) static_cast<FakeDurableFile*>(open_)->Rename(to);
+  if (!IsHeld(from)) return;
+  open_[to] = open_.at(from);
+  static_cast<FakeDurableFile*>(open_.at(to))->Rename(to);
 }
 
 }  // namespace ng

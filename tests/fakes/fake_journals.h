@@ -43,8 +43,8 @@ class FakeJournals : public JournalStore {
   void Remove(const std::string& name) override { files.erase(name); }
 
  private:
-  /// The file opened last.
-  DurableFile* open_ = nullptr;
+  /// Those that are open, by their names.
+  std::map<std::string, DurableFile*> open_;
 };
 
 }  // namespace ng

@@ -108,7 +108,9 @@ ScriptedPrompts::Answer ScriptedPrompts::TakeAnswer(const std::string& question)
 void ScriptedPrompts::Message(std::string_view text) { log.push_back("message " + Quoted(text)); }
 
 std::string ScriptedPrompts::Input(std::string_view prompt) {
-  return TakeAnswer("input " + Quoted(prompt)).text;
+  const Answer answer = TakeAnswer("input " + Quoted(prompt));
+  for (const Act& act : answer.acts) perform(act);
+  return answer.text;
 }
 
 std::optional<std::string> ScriptedPrompts::ChooseFile(const char* kind, const FileDialog& dialog) {

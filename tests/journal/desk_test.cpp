@@ -79,6 +79,49 @@ TEST(Desk, StepsGoBackAndForthByTheirNames) {
   EXPECT_EQ(run.prompts.TakeLog(), std::vector<std::string>());
 }
 
+TEST(Desk, WhatWasOnlyLookedAtAfterAnUndoIsReadAgain) {
+  TestMachine machine;
+  TestDesk run(machine);
+  BeginFight(run);
+  machine.files.Put("C:\\tracker\\ngtracker.txt", "an earlier evening\r\n");
+  run.desk.Undo();
+  run.Do("mnuViewLog");
+  run.desk.Redo();
+  run.Do("mnuViewLog");
+  run.Do("cmdLDam");
+  machine.journals.files = {{"killed.open", machine.journals.files.begin()->second}};
+  TestDesk next(machine);
+  next.desk.TakeUp("killed.open");
+  EXPECT_EQ(next.prompts.TakeLog(), std::vector<std::string>());
+  EXPECT_EQ(next.Main().damage.lblPDam, "1");
+}
+
+TEST(Desk, AJournalThatCannotBeOpenedCostsTheFightNothing) {
+  TestMachine machine;
+  TestDesk run(machine);
+  BeginFight(run);
+  const std::string name = run.desk.JournalName();
+  machine.journals.files["other.open"] = machine.journals.files.at(name);
+  machine.journals.held.insert("other.open");
+  run.desk.TakeUp("other.open");
+  EXPECT_EQ(run.prompts.TakeLog().size(), 2U);
+  EXPECT_EQ(run.desk.JournalName(), name);
+}
+
+TEST(Desk, WhatABoxSaysWhileItAsksAndACancelAreNoSteps) {
+  TestMachine machine;
+  TestDesk run(machine);
+  BeginFight(run);
+  run.prompts.answers.push_back({Kind::Modal, {}, {{"frmLoader.cmdCancel"}}});
+  run.Do("mnuFileOpen");
+  run.prompts.answers.push_back({Kind::Input, "", {{"Form_LeftOut"}}});
+  run.Do("mnuPMult");
+  EXPECT_EQ(run.desk.steps().UndoName(), "Next");
+  run.Reply(Kind::Input, "look out");
+  run.Do("frmGM.cmdAddNote");
+  EXPECT_EQ(run.desk.steps().UndoName(), "game master's note");
+}
+
 TEST(Desk, UndoTouchesNoFilesButSaysSoInTheLog) {
   TestMachine machine;
   TestDesk run(machine);
@@ -192,6 +235,11 @@ TEST(Desk, ADamagedJournalGivesWhatIsWhole) {
   cases.push_back({"", "", refused + "The journal is empty.\"", -2});
   cases.push_back({"[SystemState]\r\n", "", refused + "This is not a journal.\"", -2});
   cases.push_back({std::string(2000, '\0'), "", refused + "This is not a journal.\"", -2});
+  cases.push_back({whole + Framed("cmdOfLater\n"), "",
+                   "message \"This fight was kept by another version of the program and can be "
+                   "followed up to combat turn 1 only.%0D%0AIt is not taken up, and its journal is "
+                   "left as it is.\"",
+                   -2});
   for (const Case& c : cases) {
     machine.journals.files = {{"2026-01-01 10-00-00.open", c.bytes}};
     TestDesk run(machine);

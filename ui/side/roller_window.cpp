@@ -56,6 +56,7 @@ RollerWindow::RollerWindow(const Perform& perform, QWidget* parent)
   column->addLayout(halves, 1);
   BuildMenu(perform);
   AddFightKeys(*this, perform);
+  KeepEditingKeys(*this);
   connect(tabs, &QTabBar::currentChanged, modifiers.pages, &QStackedWidget::setCurrentIndex);
   connect(tabs, &QTabBar::currentChanged, this, &RollerWindow::ShowPage);
   ShowPage(tabs->currentIndex());

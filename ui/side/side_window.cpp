@@ -8,6 +8,7 @@
 #include "app/form_windows.h"
 #include "ui/look/layout_kit.h"
 #include "ui/wiring/bind.h"
+#include "ui/wiring/button_keys.h"
 #include "ui/wiring/text.h"
 
 namespace ng {
@@ -28,6 +29,7 @@ SideWindow::SideWindow(const char* name, const QString& title, Perform perform, 
   connect(help, &QShortcut::activated, this, [this] {
     Do({"mnuHelpContents", 0, FromQString(objectName())});
   });
+  AddUndoKeys(*this, perform_);
 }
 
 SideWindow::~SideWindow() = default;

@@ -9,6 +9,8 @@
 namespace ng {
 
 void NoteEdit::keyPressEvent(QKeyEvent* event) {
+  // The second key of Redo, which the toolkit does not know here.
+  if (event->keyCombination() == (Qt::CTRL | Qt::Key_Y)) return redo();
   if (WithoutForeign(event->text()) == event->text()) return QPlainTextEdit::keyPressEvent(event);
   emit LeftOut();
 }

@@ -119,10 +119,14 @@ void ShowOwnText(QObject& widget, const std::string& text) {
   dynamic_cast<ShowsText&>(widget).ShowText(text);
 }
 
-/// The words of a menu entry are its command's; what changes is what it is about to do.
+/// An entry of the menus says what it is about to do; below its icon the command's word stays.
 void ShowEntry(QAction& entry, const QString& text) {
   if (entry.statusTip() == text) return;
   entry.setStatusTip(text);
+  const QChar mnemonic = entry.text().at(entry.text().indexOf(QLatin1Char('&')) + 1);
+  QString words = text;
+  words.replace(QLatin1Char('&'), QLatin1String("&&"));
+  entry.setText(words.insert(words.indexOf(mnemonic, 0, Qt::CaseInsensitive), QLatin1Char('&')));
   const QString key = entry.shortcut().toString(QKeySequence::NativeText);
   entry.setToolTip(QStringLiteral("%1 (%2)").arg(text, key));
 }

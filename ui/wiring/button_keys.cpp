@@ -7,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QShortcut>
+#include <QTextDocument>
 #include <algorithm>
 #include <string_view>
 
@@ -27,6 +28,22 @@ bool IsFunctionKey(std::string_view key) {
   return key.size() > 1 && key[0] == 'F';
 }
 
+constexpr const char* kSecondRedoKey = "Ctrl+Y";
+
+bool IsUndo(const QKeyEvent& key) { return key.matches(QKeySequence::Undo); }
+
+bool IsRedo(const QKeyEvent& key) {
+  return key.matches(QKeySequence::Redo) || key.keyCombination() == (Qt::CTRL | Qt::Key_Y);
+}
+
+/// A note undoes its own text as long as it has steps. What is typed into a box is a step of the
+/// fight.
+bool HasSteps(const QObject* edit, const QKeyEvent& key) {
+  const auto* note = qobject_cast<const QPlainTextEdit*>(edit);
+  if (note == nullptr || note->isReadOnly()) return false;
+  return IsUndo(key) ? note->document()->isUndoAvailable() : note->document()->isRedoAvailable();
+}
+
 class EditingKeys : public QObject {
  public:
   explicit EditingKeys(QWidget& window) : QObject(&window) {
@@ -34,9 +51,13 @@ class EditingKeys : public QObject {
     for (QWidget* edit : window.findChildren<QPlainTextEdit*>()) edit->installEventFilter(this);
   }
 
-  bool eventFilter(QObject*, QEvent* event) override {
+  bool eventFilter(QObject* edit, QEvent* event) override {
     if (event->type() != QEvent::ShortcutOverride) return false;
     const auto& key = static_cast<const QKeyEvent&>(*event);
+    if (IsUndo(key) || IsRedo(key)) {
+      event->setAccepted(HasSteps(edit, key));
+      return true;
+    }
     constexpr QKeySequence::StandardKey kOwn[] = {
         QKeySequence::DeleteEndOfWord, QKeySequence::DeleteStartOfWord,
         QKeySequence::DeleteEndOfLine, QKeySequence::DeleteCompleteLine};
@@ -46,6 +67,11 @@ class EditingKeys : public QObject {
     return own;
   }
 };
+
+void AddKey(QWidget& window, const char* key, const Perform& perform, const Act& act) {
+  auto* shortcut = new QShortcut(Sequence(key), &window);
+  QObject::connect(shortcut, &QShortcut::activated, &window, [perform, act] { perform(act); });
+}
 
 }  // namespace
 
@@ -64,16 +90,21 @@ void PressWithKey(Qt::Key key, QLineEdit* box, QPushButton* button) {
       QKeySequence(key), box, button, [button] { button->click(); }, Qt::WidgetShortcut);
 }
 
+void AddUndoKeys(QWidget& window, const Perform& perform) {
+  for (const char* command : {"mnuEditUndo", "mnuEditRedo"}) {
+    AddKey(window, FindCommand(command)->shortcut, perform, {command});
+  }
+  AddKey(window, kSecondRedoKey, perform, {"mnuEditRedo"});
+}
+
 void AddFightKeys(QWidget& window, const Perform& perform) {
-  const auto add = [&](const char* key, const Act& act) {
-    auto* shortcut = new QShortcut(Sequence(key), &window);
-    QObject::connect(shortcut, &QShortcut::activated, &window, [perform, act] { perform(act); });
-  };
-  for (const char* step : {"mnuTPrev", "mnuTNext"}) add(FindCommand(step)->shortcut, {step});
+  for (const char* step : {"mnuTPrev", "mnuTNext"}) {
+    AddKey(window, FindCommand(step)->shortcut, perform, {step});
+  }
   for (const ButtonKey& entry : MainKeys()) {
     if (!IsFunctionKey(entry.key)) continue;
     const WidgetName button = ParseWidgetName(QString::fromLatin1(entry.button));
-    add(entry.key, {button.control, button.index});
+    AddKey(window, entry.key, perform, {button.control, button.index});
   }
 }
 

@@ -22,8 +22,12 @@ void PressWithKey(Qt::Key key, QLineEdit* box, QPushButton* button);
 /// turn, the shots and the reloading.
 void AddFightKeys(QWidget& window, const Perform& perform);
 
+/// Undo and Redo answer in a window beside the main one, too.
+void AddUndoKeys(QWidget& window, const Perform& perform);
+
 /// In the boxes and notes of a window the keys that delete words and lines keep that meaning,
-/// though a command has the same key elsewhere.
+/// though a command has the same key elsewhere. Undo and Redo are the fight's, but for a note that
+/// has steps of its own.
 void KeepEditingKeys(QWidget& window);
 
 }  // namespace ng
