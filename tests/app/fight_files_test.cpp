@@ -215,8 +215,7 @@ TEST_F(FightFilesTest, ASaveNamesWhomItLeavesOut) {
   program.Do("GridX_Click", program.fight.FindInOrder(1).Value());
   program.Do("mnuPRemove");
   Save(program);
-  EXPECT_EQ(program.main.statusMessage,
-            "Fight saved. Not saved (beyond slot 2): Ash::1");
+  EXPECT_EQ(program.main.statusMessage, "Fight saved. Not saved (beyond slot 2): Ash::1");
 }
 
 TEST_F(FightFilesTest, ClosingAsksForAChangedFightOnly) {
@@ -259,8 +258,7 @@ TEST_F(FightFilesTest, NotesHaveAFileOfTheirOwnOrStayWhileTheProgramRuns) {
   program.Do("txtNotes", 0, "talks\r\nfirst_");
   Save(program);
   EXPECT_EQ(program.main.statusMessage,
-            "Fight saved. Notes not saved (no note file): " +
-                program.main.header.lblName2);
+            "Fight saved. Notes not saved (no note file): " + program.main.header.lblName2);
   program.prompts.TakeLog();
   program.prompts.answers.push_back({Kind::Cancel, {}, {}});
   program.Do("cmdNoteSave");
