@@ -152,11 +152,11 @@ void Tape::Message(std::string_view text) {
 std::string Tape::Input(std::string_view prompt) {
   if (!Live()) {
     const Answer* answer = TakeAnswer();
-    const std::string text = answer == nullptr ? std::string() : answer->text;
+    std::string text = answer == nullptr ? std::string() : answer->text;
     refused_ = refused_ || text.empty();
     return text;
   }
-  const std::string text = real_->prompts.Input(prompt);
+  std::string text = real_->prompts.Input(prompt);
   refused_ = refused_ || text.empty();
   Note(Answer{Answer::Kind::Input, text, {}});
   return text;
@@ -174,7 +174,7 @@ std::optional<std::string> Tape::ChosenFile(
     refused_ = true;
     return std::nullopt;
   }
-  const std::optional<std::string> path = ask();
+  std::optional<std::string> path = ask();
   refused_ = refused_ || !path;
   Note(Answer{path ? Answer::Kind::File : Answer::Kind::Cancel, path.value_or(""), {}});
   return path;

@@ -12,8 +12,8 @@
 #include <sys/stat.h>
 #include <system_error>
 #include <thread>
-#include <utility>
 #include <unistd.h>
+#include <utility>
 
 #include "base/runtime_error.h"
 

@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034 # the lists are read by those that source this file
 # Sourced by ./run and ./test, with `home` set to the project's folder.
 
 build_packages=(g++ cmake ninja-build qt6-base-dev)
@@ -25,5 +26,5 @@ install_packages() {
 build_preset() {
   local preset=$1 option=$2
   shift 2
-  (cd "$home" && cmake --preset "$preset" "$option" && cmake --build --preset "$preset" "$@")
+  (cd "${home:?}" && cmake --preset "$preset" "$option" && cmake --build --preset "$preset" "$@")
 }

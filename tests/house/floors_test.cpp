@@ -18,8 +18,8 @@ namespace fs = std::filesystem;
 /// The floors from the ground up: each is a folder with all that lies in it, but for what is a
 /// floor of its own.
 constexpr std::array<std::string_view, 13> kFloors = {
-    "base",    "app/settings", "tracker/fight", "notes",    "roller", "import",
-    "tracker", "combat",       "app",           "journal",  "platform", "ui",     "tour"};
+    "base",   "app/settings", "tracker/fight", "notes",    "roller", "import", "tracker",
+    "combat", "app",          "journal",       "platform", "ui",     "tour"};
 
 /// The floor whose folder holds the file: of two the inner one.
 std::string_view FloorName(const fs::path& file) {
