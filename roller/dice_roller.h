@@ -95,7 +95,7 @@ class DiceRoller {
   void Form_Load(Files& files, const std::string& datDir);
 
   /// Opens a page and starts its test for the displayed combatant: dice, combat pool, base number
-  /// and whatever the combatant brings along are filled in anew. What the game master set about the
+  /// and whatever the combatant brings along are filled in again. What the game master set about the
   /// situation stays.
   void tabTest_Click(TestPage page);
 
