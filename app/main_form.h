@@ -70,7 +70,7 @@ class MainForm : private SequencerHost, private DiceRoller::Weapons {
  public:
   MainForm(Environment& environment, LoaderForm& loader, OptionsForm& options);
 
-  // The parts hold on to one another.
+  // The parts refer to one another.
   MainForm(const MainForm&) = delete;
   MainForm& operator=(const MainForm&) = delete;
 
@@ -101,7 +101,7 @@ class MainForm : private SequencerHost, private DiceRoller::Weapons {
   Firing firing;
   SkillTests skillTests;
   FightFiles fightFiles;
-  /// Knows the lines marked in the lists, too.
+  /// Knows the lines selected in the lists, too.
   InfoForm itemInfo;
   std::string txtNotes;
   std::string txtNoteFileName;
@@ -225,7 +225,7 @@ class MainForm : private SequencerHost, private DiceRoller::Weapons {
   void ShowRestored(Slot slot);
 
   /// To be called when a command has run: the open test follows its combatant. Numbers that cannot
-  /// be added up leave it as it is; they were told when the combatant was displayed.
+  /// be added up leave it as it is; their message came when the combatant was displayed.
   void FollowTest();
 
   // What the window shows beside the controls.

@@ -50,8 +50,8 @@ class DamageMonitor {
   /// Adds boxes to a track, or takes them away when `amount` is negative; see AddBoxes.
   void ApplyDamage(Track track, Integer& amount);
   void ClearTrack(Track track);
-  /// Works out what follows from the two tracks, shows it and orders the table anew. The tracks are
-  /// shown even where the new score ends in Overflow.
+  /// Works out what follows from the two tracks, shows it and orders the table again. The tracks
+  /// are shown even where the new score ends in Overflow.
   void UpdateDamageDisplay();
 
  private:

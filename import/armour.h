@@ -26,7 +26,7 @@ struct LoadWeights {
   double gear = 0;
 };
 
-/// Adds up the lines that are marked; what is not worn or carried weighs nothing.
+/// Adds up the lines that are checked; what is not worn or carried weighs nothing.
 LoadWeights WeightsOf(const CharacterEntry& entry);
 
 /// Whether a line is the armour of laced bones, which counts in full and is never the main armour.

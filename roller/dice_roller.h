@@ -95,8 +95,8 @@ class DiceRoller {
   void Form_Load(Files& files, const std::string& datDir);
 
   /// Opens a page and starts its test for the displayed combatant: dice, combat pool, base number
-  /// and whatever the combatant brings along are filled in anew. What the game master set about the
-  /// situation stays.
+  /// and whatever the combatant brings along are filled in again. What the game master set about
+  /// the situation stays.
   void tabTest_Click(TestPage page);
 
   /// Rolls the test, shows what came of it, hands back the combat pool left over, and beeps.

@@ -157,7 +157,7 @@ Sequencer::Look Sequencer::LookAtCurrent() {
   }
   if (record.TurnDone) return Look::GoOn;
   // Before every look and not once a step: the sheet of a displayed combatant whose counts were
-  // just cleared, and who does not act, goes over them.
+  // just cleared, and who does not act, overwrites them.
   host_.SyncSheet();
   if (!record.Resumed) {
     record.TBTTPrim = "0";

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "fakes/expect_error.h"
 #include "fakes/test_program.h"
 
 namespace ng {
@@ -27,6 +28,7 @@ TEST(Grid, RowsShowTheOrderAndTheLastColourWins) {
   EXPECT_EQ(grid.RowAt(2).colour[0], Colour::Yellow);
   EXPECT_EQ(grid.RowAt(3).colour[1], Colour::Red);
   EXPECT_EQ(program.fight.lastGreen.Value(), 2);
+  for (const int row : {-1, 4}) EXPECT_RUNTIME_ERROR(grid.RowAt(row), "Subscript out of range");
   grid.PaintRowGreen(0);
   EXPECT_EQ(program.fight.lastGreen.Value(), 2);
 
