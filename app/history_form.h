@@ -5,6 +5,9 @@
 
 namespace ng {
 
+/// Stands before the words of a line whose step was undone.
+inline constexpr const char* kTakenBack = "Taken back: ";
+
 /// The history window, frmHistory: what happened, a line a step, under headings for combat turn and
 /// pass. The desk fills it.
 struct HistoryForm {
@@ -15,7 +18,7 @@ struct HistoryForm {
   std::vector<std::string> cmbWho;
   int cmbWhoIndex = 0;
   /// Columns: hour, who, what, what changed. A heading has its words in the second column alone;
-  /// what was undone has "Taken back" before its words.
+  /// what was undone has kTakenBack before its words.
   std::vector<std::string> lstLines;
   int lstLinesIndex = -1;
 

@@ -17,7 +17,7 @@ constexpr const char* kTextFilter = "Text Files (*.txt)|*.txt";
 /// The columns of a line of the list.
 std::string Columns(const HistoryLine& line, bool undone) {
   if (line.heading) return "\t" + line.what;
-  return line.hour + "\t" + line.who + "\t" + (undone ? "Taken back: " : "") + line.what + "\t" +
+  return line.hour + "\t" + line.who + "\t" + (undone ? kTakenBack : "") + line.what + "\t" +
          line.changes;
 }
 

@@ -11,13 +11,34 @@
 #include <QStyledItemDelegate>
 #include <QTreeWidget>
 
+#include "app/history_form.h"
 #include "ui/look/layout_kit.h"
+#include "ui/look/theme.h"
 
 namespace ng {
 namespace {
 
-constexpr QSize kSize(760, 640);
+constexpr QSize kSize(880, 640);
 constexpr QSize kLeastSize(560, 400);
+constexpr int kWho = 1;
+constexpr int kWhat = 2;
+constexpr int kChanges = 3;
+
+/// Headings and names are bold, what was taken back is in italics, what changed is muted.
+class LineDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    const QString what = index.siblingAtColumn(kWhat).data().toString();
+    option->font.setBold(index.column() == kWho);
+    option->font.setItalic(what.startsWith(QLatin1String(kTakenBack)));
+    if (index.column() != kChanges) return;
+    option->palette.setColor(QPalette::Text, option->palette.color(kMutedText));
+  }
+};
 
 /// Headings are bold, and what was undone is set in italics.
 class LineDelegate : public QStyledItemDelegate {
@@ -39,7 +60,7 @@ HistoryWindow::HistoryWindow(const Perform& perform, QWidget* parent)
     : SideWindow("frmHistory", "History", perform, parent),
       lines_(MakeList({QStringLiteral("lstLines"), "What has happened",
                        "What has happened in this fight; double-click shows the combatant"},
-                      {{"Time", 52}, {"Who", 150}, {"What", 200}, {"What changed"}}, this)) {
+                      {{"Time", 52}, {"Who", 170}, {"What", 240}, {"What changed"}}, this)) {
   resize(kSize);
   setMinimumSize(kLeastSize);
   lines_->setProperty("showsEnd", true);

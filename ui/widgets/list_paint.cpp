@@ -1,6 +1,7 @@
 #include "ui/widgets/list_paint.h"
 
 #include <QListWidget>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTreeWidget>
 #include <algorithm>
@@ -37,6 +38,9 @@ void ShowEnd(QTreeWidget& tree) {
 }  // namespace
 
 void ShowLines(QTreeWidget& tree, const std::vector<std::string>& lines) {
+  const QScrollBar& bar = *tree.verticalScrollBar();
+  const int place = bar.value();
+  const bool atEnd = place == bar.maximum();
   tree.clear();
   QList<QTreeWidgetItem*> items;
   items.reserve(static_cast<qsizetype>(lines.size()));
@@ -46,7 +50,13 @@ void ShowLines(QTreeWidget& tree, const std::vector<std::string>& lines) {
     items.append(item);
   }
   tree.addTopLevelItems(items);
-  if (tree.property("showsEnd").toBool()) ShowEnd(tree);
+  if (!tree.property("showsEnd").toBool()) return;
+  // Who scrolled up to read stays there.
+  if (atEnd) {
+    ShowEnd(tree);
+  } else {
+    tree.verticalScrollBar()->setValue(place);
+  }
 }
 
 void ShowLines(QListWidget& list, const std::vector<std::string>& lines) {
