@@ -245,11 +245,8 @@ TEST_F(FightFilesTest, ASaveNamesWhomItLeavesOut) {
   program.Do("mnuPRemove");
   Save(program);
   EXPECT_EQ(program.main.statusMessage, "Fight saved. Not saved (beyond slot 2): Ash::1");
-<<<<<<< HEAD
   program.Do("mnuFileNew");
   EXPECT_EQ(program.main.statusMessage, "1 combatant remains beyond an empty slot");
-=======
->>>>>>> part-s
 }
 
 TEST_F(FightFilesTest, ClosingAsksForAChangedFightOnly) {

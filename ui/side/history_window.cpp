@@ -40,20 +40,6 @@ class LineDelegate : public QStyledItemDelegate {
   }
 };
 
-/// Headings are bold, and what was undone is set in italics.
-class LineDelegate : public QStyledItemDelegate {
- public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-
- protected:
-  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
-    QStyledItemDelegate::initStyleOption(option, index);
-    if (index.siblingAtColumn(0).data().toString().isEmpty()) option->font.setBold(true);
-    const QString what = index.siblingAtColumn(2).data().toString();
-    if (what.startsWith(QLatin1String("Taken back"))) option->font.setItalic(true);
-  }
-};
-
 }  // namespace
 
 HistoryWindow::HistoryWindow(const Perform& perform, QWidget* parent)
