@@ -116,6 +116,8 @@ TEST_F(FightFilesTest, DroppedFilesAreOpenedTheStateFirst) {
             "message \"Only one state file can be opened at a time\"");
   later.Do("Form_Drop", 0, "D:\\map.png");
   EXPECT_EQ(later.main.statusMessage, "Neither a character nor a state file: D:\\map.png");
+  later.Do("Form_Drop", 0, "C:\\chars\\?sh.ng3");
+  EXPECT_EQ(later.main.statusMessage, "Not told from other files by its name: ?sh.ng3");
   EXPECT_EQ(later.fight.CountPlayers().Value(), 5);
 }
 
