@@ -85,6 +85,12 @@ std::string NameIn(const std::string& characterDirectory, const std::string& pat
   return inside ? ImportName(characterDirectory, path.substr(length + 1)) : path;
 }
 
+/// False for a name with characters that the program cannot write when it fits several files. A
+/// nameless combatant would not be what was dropped.
+bool NamesAFile(Files& files, const std::string& path) {
+  return !Contains(path, "?") || ReadProfileText(files, path).has_value();
+}
+
 ImportTarget TargetOf(MainForm& form, Environment& environment) {
   return {environment.files, environment.settings, form.gearTable, form.fight, form.characters};
 }
@@ -161,10 +167,15 @@ void FightFiles::OpenFiles(const std::vector<std::string>& paths) {
   }
   if (!files.states.empty() && !LoadState(files.states.front())) return;
   std::vector<std::string> names;
+  std::vector<std::string> unclear;
   for (const std::string& path : files.characters) {
-    names.push_back(NameIn(environment_.settings.NG3Dir, path));
+    const std::string name = NameIn(environment_.settings.NG3Dir, path);
+    (NamesAFile(environment_.files, path) ? names : unclear).push_back(name);
   }
   ImportCharacters(names);
+  if (!unclear.empty()) {
+    form_.statusMessage = "Not told from other files by its name: " + Joined(unclear);
+  }
   if (!files.others.empty()) {
     form_.statusMessage = "Not a character or state file: " + files.others.front();
   }

@@ -30,7 +30,8 @@ class FightFiles {
   void ImportCharacters(const std::vector<std::string>& names);
   /// What was dropped on the window or handed over at the start: the state file first, which would
   /// lay itself over the characters, and then those in the order given. Refused for two state
-  /// files, and when the state file is none; what is neither is named in the status bar.
+  /// files, and when the state file is none; what is neither, and what cannot be told from
+  /// other files by its name, is named in the status bar.
   void OpenFiles(const std::vector<std::string>& paths);
 
   /// Asks for a file and writes the fight to it. Returns false when the dialog was cancelled. The

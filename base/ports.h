@@ -14,8 +14,7 @@ namespace ng {
 /// The files of a directory as a file list shows them.
 struct FileList {
   std::vector<std::string> names;
-  /// Files that are there but cannot be named: in the program's path texts they would be told from
-  /// nothing else.
+  /// How many more files there are, whose names as the program writes them fit other files as well.
   int unlisted = 0;
 };
 

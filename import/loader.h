@@ -16,7 +16,7 @@ bool IsAbsolute(std::string_view name);
 std::string FullCharacterName(const std::string& characterDirectory, const std::string& name);
 
 /// The name by which a file of the character directory is imported: its name alone, but the full
-/// one where the name alone would stand for itself.
+/// one where the name alone would be taken for a full one.
 std::string ImportName(const std::string& characterDirectory, const std::string& name);
 
 /// The modal dialog in which character files are picked: the form behind frmLoader.

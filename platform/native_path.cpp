@@ -19,7 +19,7 @@ fs::path FromText(std::string_view text) {
 
 constexpr char kPlaceholder = '?';
 
-bool CanStandInPath(char c) {
+bool FitsPathText(char c) {
   const auto code = static_cast<unsigned char>(c);
   if (code < 0x20 || code == 0x7F || c == '|') return false;
   return c != '\\' || fs::path::preferred_separator == '\\';
@@ -71,7 +71,7 @@ std::string PathText(const fs::path& native) {
   const std::u8string utf8 = native.u8string();
   std::string text = FromUtf8({reinterpret_cast<const char*>(utf8.data()), utf8.size()});
   std::replace_if(
-      text.begin(), text.end(), [](char c) { return !CanStandInPath(c); }, kPlaceholder);
+      text.begin(), text.end(), [](char c) { return !FitsPathText(c); }, kPlaceholder);
   return text;
 }
 

@@ -13,8 +13,8 @@ namespace ng {
 /// holds "?" names the one entry that PathText writes so; where there are several it names none.
 std::filesystem::path NativePath(std::string_view text);
 
-/// A native path as the program writes it. "?" takes the place of every character that cannot stand
-/// in a path text: those outside the code page, bytes that are no text at all, line breaks and
+/// A native path as the program writes it. "?" takes the place of every character that a path
+/// text cannot hold: those outside the code page, bytes that are no text at all, line breaks and
 /// other controls, "|", which joins names, and on POSIX "\", which would part the name.
 std::string PathText(const std::filesystem::path& native);
 

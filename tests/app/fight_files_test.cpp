@@ -141,6 +141,8 @@ TEST_F(FightFilesTest, DroppedFilesAreOpenedTheStateFirst) {
             "message \"Only one state file can be opened at a time\"");
   later.Do("Form_Drop", 0, "D:\\map.png");
   EXPECT_EQ(later.main.statusMessage, "Not a character or state file: D:\\map.png");
+  later.Do("Form_Drop", 0, "C:\\chars\\?sh.ng3");
+  EXPECT_EQ(later.main.statusMessage, "Not told from other files by its name: ?sh.ng3");
   EXPECT_EQ(later.fight.CountPlayers().Value(), 5);
   // It is the file that the Open dialog finds, however its directory is written.
   later.session.environment.settings.NG3Dir = "C:\\chars\\";

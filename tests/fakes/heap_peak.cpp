@@ -10,7 +10,7 @@ namespace {
 std::atomic<std::size_t> taken = 0;
 std::atomic<std::size_t> mostTaken = 0;
 
-/// Stands before every block and keeps its size.
+/// Before every block; keeps its size.
 union Header {
   std::size_t size;
   std::max_align_t alignment;
