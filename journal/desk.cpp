@@ -233,6 +233,14 @@ void Desk::Adopt(Journal journal) {
   forms_.Begin();
 }
 
+void Desk::Decline(const std::string& name) {
+  try {
+    outside_.journals.Rename(name, DeclinedName(name));
+  } catch (const RuntimeError&) {
+    // On a disk that cannot be written it is offered again.
+  }
+}
+
 void Desk::TellNotice(const std::string& notice) {
   if (!notice.empty()) session().main.lblJournal = notice;
 }

@@ -55,6 +55,8 @@ class Desk {
   void GoTo(std::size_t entries);
   const Steps& steps() const { return steps_; }
 
+  /// The fight stays among the recent ones and is not offered again.
+  void Decline(const std::string& name);
   /// To be called once the main window is there: offers the fight that was not closed.
   void OfferUnclosed() { forms_.OfferUnclosed(); }
   std::vector<KeptFight> KeptFights() const { return ng::KeptFights(outside_.journals); }

@@ -235,7 +235,11 @@ void DeskForms::OfferUnclosed() {
   const bool yes = desk_.ports().prompts.AskToTakeUp(
       "The fight of " + hour + " with " + Combatants(fight->summary.combatants) + ", combat turn " +
       std::to_string(fight->summary.combatTurn) + ", was not closed. Take it up again?");
-  if (yes) desk_.TakeUp(fight->name);
+  if (yes) {
+    desk_.TakeUp(fight->name);
+  } else {
+    desk_.Decline(fight->name);
+  }
 }
 
 }  // namespace ng

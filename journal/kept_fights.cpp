@@ -69,6 +69,8 @@ std::string NewJournalName(JournalStore& store, const std::string& now) {
 
 std::string ClosedName(const std::string& name) { return Stem(name) + kClosedEnding; }
 
+std::string DeclinedName(const std::string& name) { return Stem(name) + kDeclinedEnding; }
+
 void RemoveOldJournals(JournalStore& store, std::size_t kept) {
   const std::vector<std::string> names = store.List();
   std::size_t left = names.size();

@@ -13,6 +13,8 @@ namespace ng {
 // tells whether the fight was closed properly: a program that is killed leaves the other one.
 
 inline constexpr const char* kOpenEnding = ".open";
+/// Not closed properly, but the game master did not want it back at the next start.
+inline constexpr const char* kDeclinedEnding = ".left";
 inline constexpr const char* kClosedEnding = ".ngj";
 
 /// A fight whose journal is kept.
@@ -37,6 +39,9 @@ std::string NewJournalName(JournalStore& store, const std::string& now);
 
 /// The name of an open journal when it is closed.
 std::string ClosedName(const std::string& name);
+
+/// The name of a journal that is not to be offered again.
+std::string DeclinedName(const std::string& name);
 
 /// Removes the oldest journals that no running program holds until `kept` are left.
 void RemoveOldJournals(JournalStore& store, std::size_t kept);

@@ -128,6 +128,7 @@ TEST(Recovery, AsksOnceForTheFightThatWasNotClosed) {
     EXPECT_EQ(run.Main().GridX.RowCount(), yes ? 2 : 0);
     // After No it stays among the recent fights.
     EXPECT_EQ(run.desk.KeptFights().size(), 1U);
+    EXPECT_FALSE(run.desk.Unclosed());
   }
 }
 
